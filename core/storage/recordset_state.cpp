@@ -1,0 +1,421 @@
+#include "core/storage/recordset_state.h"
+
+#include <algorithm>
+
+#include "core/storage/storage_error.h"
+
+namespace storage {
+namespace {
+
+constexpr int mostRowsAhead = 64;
+constexpr int fieldsBeforeAll = 10;  // a reader of so many fields one by one wants them all
+
+std::shared_ptr<const ColumnLayout> layoutWith(const ColumnLayout* old, size_t fieldCount,
+                                               std::span<const int> more)
+{
+    auto layout = std::make_shared<ColumnLayout>();
+    if (old)
+        *layout = *old;
+    layout->columnOf.resize(fieldCount, -1);
+    for (const int position : more) {
+        qint16& column = layout->columnOf[static_cast<size_t>(position)];
+        if (column >= 0)
+            continue;
+        column = static_cast<qint16>(layout->columns.size());
+        layout->columns.push_back(position);
+    }
+    return layout;
+}
+
+}  // namespace
+
+RecordsetState::RecordsetState(std::shared_ptr<DatabaseState> owner,
+                               std::shared_ptr<const TableDefinition> definition)
+    : database(std::move(owner)), table(std::move(definition))
+{
+    m_wanted = layoutWith(nullptr, table->fields.size(), {});
+    m_definitions = engine().version().definitions;
+}
+
+void RecordsetState::touch(bool forWriting)
+{
+    if (!database || !database->engine)
+        fail(ErrorNumber::ClosedObject);
+    database->touch(forWriting);
+}
+
+void RecordsetState::close()
+{
+    m_plan.reset();
+    m_block.start(0);
+    database.reset();
+}
+
+FetchPlan& RecordsetState::plan()
+{
+    if (!m_plan)
+        m_plan = engine().plan(table, index, m_wanted->columns);
+    return *m_plan;
+}
+
+// The table may have been given other fields or indexes, or dropped, by whoever updates
+// definitions. True if it was: then everything that rests on positions has been worked out anew.
+bool RecordsetState::definitionsChanged(const Version& version)
+{
+    if (version.definitions == m_definitions)
+        return false;
+    const auto fresh = engine().table(table->name);
+    if (!fresh)
+        fail(ErrorNumber::TableNotFound, table->name);
+    std::vector<int> columns;
+    for (const int column : m_wanted->columns) {
+        const int position = fresh->fieldPosition(table->fields[static_cast<size_t>(column)].name);
+        if (position >= 0)
+            columns.push_back(position);
+    }
+    const QString indexName =
+        index < 0 ? QString() : table->indexes[static_cast<size_t>(index)].name;
+    table = fresh;
+    m_definitions = engine().version().definitions;
+    m_wanted = layoutWith(nullptr, table->fields.size(), columns);
+    m_plan.reset();
+    index = indexName.isEmpty() ? -1 : table->indexPosition(indexName);
+    if (index < 0 && !indexName.isEmpty())
+        fail(ErrorNumber::IndexNotFound, indexName);
+    wantIndexFields();
+    return true;
+}
+
+bool RecordsetState::fetch(Direction direction, const FetchStart& start, int limit)
+{
+    for (bool again = false;; again = true) {
+        try {
+            engine().fetch(plan(), direction, start, limit, m_spare);
+        } catch (const StorageError& error) {
+            if (again || error.errorNumber() != ErrorNumber::Internal ||
+                !definitionsChanged(engine().version()))
+                throw;
+            continue;
+        }
+        if (again || !definitionsChanged(m_spare.version))
+            break;
+    }
+    std::swap(m_block, m_spare);
+    m_layout = m_wanted;
+    m_direction = direction;
+    m_ahead = limit;
+    m_inOrder = true;
+    m_row = 0;
+    return m_block.rowCount() > 0;
+}
+
+// The record alone becomes the block. False, and nothing changed, when it is gone.
+bool RecordsetState::fetchRecord(RecordId wanted)
+{
+    for (bool again = false;; again = true) {
+        try {
+            engine().fetchRecord(plan(), wanted, m_spare);
+        } catch (const StorageError& error) {
+            if (again || error.errorNumber() != ErrorNumber::Internal ||
+                !definitionsChanged(engine().version()))
+                throw;
+            continue;
+        }
+        if (again || !definitionsChanged(m_spare.version))
+            break;
+    }
+    if (m_spare.rowCount() == 0)
+        return false;
+    std::swap(m_block, m_spare);
+    m_layout = m_wanted;
+    m_inOrder = true;
+    m_row = 0;
+    return true;
+}
+
+void RecordsetState::settle(Direction direction)
+{
+    if (m_block.rowCount() > 0)
+        place = Place::OnRecord;
+    else
+        place = direction == Direction::Forward ? Place::AfterLast : Place::BeforeFirst;
+}
+
+void RecordsetState::resolve()
+{
+    if (place != Place::Unresolved)
+        return;
+    if (!fetch(Direction::Forward, {}, 1))
+        place = Place::NoRecords;
+    else
+        place = Place::OnRecord;
+}
+
+void RecordsetState::wantIndexFields()
+{
+    m_keyFields.clear();
+    if (index < 0)
+        return;
+    for (const QString& field : table->indexes[static_cast<size_t>(index)].fields)
+        m_keyFields.push_back(table->fieldPosition(field));
+    m_wanted = layoutWith(m_wanted.get(), table->fields.size(), m_keyFields);
+}
+
+void RecordsetState::setIndex(const QString& name)
+{
+    touch();
+    cancelUpdate();
+    const int position = name.isEmpty() ? -1 : table->indexPosition(name);
+    if (position < 0 && !name.isEmpty()) {
+        // Perhaps it was made a moment ago.
+        if (!definitionsChanged(engine().version()) || table->indexPosition(name) < 0)
+            fail(ErrorNumber::IndexNotFound, name);
+        return setIndex(name);
+    }
+    if (position == index)
+        return;
+    if (place == Place::OnDeleted)
+        place = Place::Nowhere;  // its key along the new index is not known any more
+    index = position;
+    m_plan.reset();
+    m_inOrder = false;
+    wantIndexFields();
+}
+
+bool RecordsetState::seek(bool onlyEqual, std::span<const Value> keys)
+{
+    touch();
+    cancelUpdate();
+    if (index < 0)
+        fail(ErrorNumber::NoCurrentIndex);
+    if (keys.empty() || keys.size() > m_keyFields.size())
+        fail(ErrorNumber::NotInCollection, QString::number(keys.size()));
+    std::vector<Value> fittedKeys;
+    fittedKeys.reserve(keys.size());
+    for (size_t i = 0; i < keys.size(); ++i)
+        fittedKeys.push_back(asKey(table->fields[static_cast<size_t>(m_keyFields[i])], keys[i]));
+    noMatch = !fetch(Direction::Forward, {.key = fittedKeys, .onlyEqual = onlyEqual}, 1);
+    place = noMatch ? Place::Nowhere : Place::OnRecord;
+    return !noMatch;
+}
+
+bool RecordsetState::moveToEnd(Direction from)
+{
+    touch();
+    cancelUpdate();
+    if (fetch(from, {}, 4)) {
+        place = Place::OnRecord;
+        return true;
+    }
+    place = Place::NoRecords;
+    fail(ErrorNumber::NoCurrentRecord);
+}
+
+// Notes the current record's key along the index and its id.
+void RecordsetState::keepKey()
+{
+    if (place != Place::OnRecord)
+        return;
+    m_id = m_block.id(m_row);
+    for (const int field : m_keyFields)
+        if (!isFetched(field)) {
+            if (!fetchRecord(m_id)) {
+                place = Place::Nowhere;
+                fail(ErrorNumber::RecordDeleted);
+            }
+            break;
+        }
+    m_key.clear();
+    for (const int field : m_keyFields)
+        m_key.push_back(m_block.value(
+            m_row, static_cast<size_t>(m_layout->columnOf[static_cast<size_t>(field)]),
+            table->fields[static_cast<size_t>(field)].type));
+}
+
+bool RecordsetState::isFetched(int position) const
+{
+    return static_cast<size_t>(position) < m_layout->columnOf.size() &&
+           m_layout->columnOf[static_cast<size_t>(position)] >= 0;
+}
+
+bool RecordsetState::move(Direction direction)
+{
+    touch();
+    cancelUpdate();
+    resolve();
+    const bool forward = direction == Direction::Forward;
+    switch (place) {
+        case Place::BeforeFirst:
+        case Place::AfterLast:
+            if (forward == (place == Place::AfterLast))
+                fail(ErrorNumber::NoCurrentRecord);
+            return moveToEnd(direction);
+        case Place::OnRecord:
+        case Place::OnDeleted:
+            break;
+        default:
+            fail(ErrorNumber::NoCurrentRecord);
+    }
+    if (place == Place::OnRecord && m_inOrder && engine().isFresh(m_block.version)) {
+        const int next = m_row + static_cast<int>(direction) * static_cast<int>(m_direction);
+        if (next >= 0 && next < m_block.rowCount()) {
+            m_row = next;
+            return true;
+        }
+    }
+    keepKey();
+    const int limit = direction == m_direction ? std::min(m_ahead * 4, mostRowsAhead) : 4;
+    const std::vector<Value> key = m_key;
+    fetch(direction, {.key = key, .id = m_id}, limit);
+    settle(direction);
+    return place == Place::OnRecord;
+}
+
+void RecordsetState::goTo(RecordId wanted)
+{
+    touch();
+    cancelUpdate();
+    if (place == Place::OnRecord && m_block.id(m_row) == wanted &&
+        engine().isFresh(m_block.version))
+        return;
+    if (!fetchRecord(wanted))
+        fail(ErrorNumber::RecordDeleted);
+    m_ahead = 1;
+    place = Place::OnRecord;
+}
+
+void RecordsetState::requireRecord()
+{
+    resolve();
+    if (place == Place::OnDeleted)
+        fail(ErrorNumber::RecordDeleted);
+    if (place != Place::OnRecord)
+        fail(ErrorNumber::NoCurrentRecord);
+}
+
+RecordId RecordsetState::currentId()
+{
+    touch();
+    requireRecord();
+    return m_block.id(m_row);
+}
+
+void RecordsetState::wantField(int position)
+{
+    std::vector<int> more = {position};
+    if (++m_extraReads > fieldsBeforeAll) {
+        more.clear();
+        for (size_t i = 0; i < table->fields.size(); ++i)
+            more.push_back(static_cast<int>(i));
+    }
+    m_wanted = layoutWith(m_wanted.get(), table->fields.size(), more);
+    m_plan.reset();
+}
+
+Value RecordsetState::fieldValue(int position)
+{
+    touch();
+    if (mode != Mode::Browsing && m_buffer[static_cast<size_t>(position)])
+        return *m_buffer[static_cast<size_t>(position)];
+    if (mode == Mode::Adding)
+        return {};
+    requireRecord();
+    if (!isFetched(position)) {
+        wantField(position);
+        if (!fetchRecord(m_block.id(m_row)))
+            fail(ErrorNumber::RecordDeleted);
+    }
+    return m_block.value(m_row,
+                         static_cast<size_t>(m_layout->columnOf[static_cast<size_t>(position)]),
+                         table->fields[static_cast<size_t>(position)].type);
+}
+
+void RecordsetState::setFieldValue(int position, const Value& value)
+{
+    touch();
+    if (mode == Mode::Browsing)
+        fail(ErrorNumber::NoEditBegun);
+    m_buffer[static_cast<size_t>(position)] =
+        fitted(table->fields[static_cast<size_t>(position)], value);
+}
+
+void RecordsetState::addNew()
+{
+    touch(true);
+    resolve();
+    mode = Mode::Adding;
+    m_buffer.assign(table->fields.size(), std::nullopt);
+    for (size_t i = 0; i < table->fields.size(); ++i) {
+        const FieldDefinition& field = table->fields[i];
+        if (!field.defaultValue.isNull())
+            m_buffer[i] = fitted(field, field.defaultValue);
+        else if (field.type == FieldType::Boolean)
+            m_buffer[i] = Value(false);
+    }
+}
+
+void RecordsetState::edit()
+{
+    touch(true);
+    requireRecord();
+    if (!engine().isFresh(m_block.version) && !fetchRecord(m_block.id(m_row)))
+        fail(ErrorNumber::RecordDeleted);
+    mode = Mode::Editing;
+    m_buffer.assign(table->fields.size(), std::nullopt);
+}
+
+void RecordsetState::cancelUpdate()
+{
+    mode = Mode::Browsing;
+    m_buffer.clear();
+}
+
+void RecordsetState::update()
+{
+    touch(true);
+    if (mode == Mode::Browsing)
+        fail(ErrorNumber::NoEditBegun);
+    if (mode == Mode::Adding)
+        insertBuffer();
+    else
+        updateFromBuffer();
+    cancelUpdate();
+}
+
+void RecordsetState::insertBuffer()
+{
+    std::vector<Engine::Assignment> values;
+    for (size_t i = 0; i < m_buffer.size(); ++i) {
+        if (m_buffer[i])
+            values.push_back({static_cast<int>(i), *m_buffer[i]});
+        else if (table->fields[i].required)
+            fail(ErrorNumber::Required, table->fields[i].name);
+    }
+    lastModified = engine().insert(*table, values);
+}
+
+void RecordsetState::updateFromBuffer()
+{
+    std::vector<Engine::Assignment> values;
+    for (size_t i = 0; i < m_buffer.size(); ++i)
+        if (m_buffer[i])
+            values.push_back({static_cast<int>(i), *m_buffer[i]});
+    const RecordId id = m_block.id(m_row);
+    engine().update(*table, id, values);
+    lastModified = id;
+    // Another process may have deleted it in this very moment; what was written is written.
+    if (!fetchRecord(id))
+        place = Place::Nowhere;
+}
+
+void RecordsetState::deleteRecord()
+{
+    touch(true);
+    cancelUpdate();
+    requireRecord();
+    keepKey();
+    engine().remove(*table, m_id);
+    place = Place::OnDeleted;
+}
+
+}  // namespace storage

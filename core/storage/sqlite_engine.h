@@ -1,0 +1,102 @@
+// The engine on SQLite. See engine.h for what each function promises.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QHash>
+
+#include "core/storage/engine.h"
+#include "core/storage/sqlite_catalogue.h"
+#include "core/storage/sqlite_connection.h"
+#include "core/storage/writer_turn.h"
+
+class QTimer;
+
+namespace storage {
+
+class SqliteEngine : public Engine
+{
+public:
+    SqliteEngine(const QString& path, SqliteConnection::Mode mode);
+    ~SqliteEngine() override;
+
+    QString path() const override { return m_connection.path(); }
+    bool isReadOnly() const override { return m_connection.isReadOnly(); }
+    std::shared_ptr<const TableDefinition> table(const QString& name) override;
+    QStringList tableNames() override;
+
+    Version version() override;
+    bool isFresh(const Version& version) override;
+
+    std::shared_ptr<FetchPlan> plan(const std::shared_ptr<const TableDefinition>& table, int index,
+                                    const std::vector<int>& columns) override;
+    void fetch(FetchPlan& plan, Direction direction, const FetchStart& start, int limit,
+               RowBlock& block) override;
+    void fetchRecord(FetchPlan& plan, RecordId id, RowBlock& block) override;
+    qint64 count(const TableDefinition& table) override;
+
+    RecordId insert(const TableDefinition& table, std::span<const Assignment> values) override;
+    void update(const TableDefinition& table, RecordId id,
+                std::span<const Assignment> values) override;
+    void remove(const TableDefinition& table, RecordId id) override;
+
+    void begin() override;
+    void commit() override;
+    void rollback() override;
+    bool inTransaction() const override { return m_inTransaction; }
+
+    void createTable(const TableDefinition& table) override;
+    void deleteTable(const QString& table) override;
+    void appendField(const QString& table, const FieldDefinition& field) override;
+    void deleteField(const QString& table, const QString& field) override;
+    void changeField(const QString& table, const FieldDefinition& field) override;
+    void appendIndex(const QString& table, const IndexDefinition& index) override;
+    void deleteIndex(const QString& table, const QString& index) override;
+
+    QStringList checkIntegrity() override;
+    void copyTo(const QString& path) override { m_connection.copyTo(path); }
+    void goIdle() override { endLease(); }
+
+    // Treats the file as lying on a share, whatever it lies on; for tests.
+    void assumeShare() { m_onShare = true; }
+
+private:
+    class ReadScope;
+
+    SqliteStatement& statement(const QByteArray& sql);
+    void refreshCatalogue();
+    void refuseReadOnly() const;
+    // Runs one writing statement, in its turn; gives the number of rows written.
+    int write(SqliteStatement& statement);
+    template <class Change>
+    void changeDefinitions(Change change);
+    bool leaseHolds();
+    void takeLease();
+    void endLease();
+
+    SqliteConnection m_connection;
+    SqliteCatalogue m_catalogue;
+    WriterTurn m_turn;
+    bool m_inTransaction = false;
+    quint64 m_rollbacks = 0;
+    quint32 m_catalogueCookie = 0;
+    quint32 m_ownDefinitionChanges = 0;
+    QHash<QByteArray, std::shared_ptr<SqliteStatement>> m_statements;
+    QHash<QByteArray, std::shared_ptr<FetchPlan>> m_plans;
+
+    struct Count
+    {
+        Version version;
+        qint64 rows;
+    };
+    QHash<QString, Count> m_counts;
+
+    // On a share each look at the file costs a round trip. A walk there keeps its read lock for a
+    // few milliseconds instead, during which nobody can commit and every block stays true.
+    bool m_onShare = false;
+    bool m_leaseOpen = false;
+    QElapsedTimer m_leaseAge;
+    Version m_leaseVersion;
+    std::unique_ptr<QTimer> m_leaseTimer;
+};
+
+}  // namespace storage
