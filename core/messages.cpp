@@ -42,4 +42,7 @@ bool askYesNo(const QString& title, const QString& text, Answer enterTakes)
                                      .enterTakes = enterTakes}) == Answer::Yes;
 }
 
-void dnNotReady() { showInformation("Option Not Ready", "Development is Pending on this Option."); }
+void dnNotReady()
+{
+    showInformation("Option Not Ready", "Development is Pending on this Option.");
+}

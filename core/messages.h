@@ -12,7 +12,8 @@ enum class MessageKind { Information, Question, Warning, Critical };
 enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
 enum class Answer { Ok, Cancel, Yes, No };
 
-struct Message {
+struct Message
+{
     MessageKind kind = MessageKind::Information;
     QString title;
     QString text;  // lines parted by '\n'
@@ -20,7 +21,8 @@ struct Message {
     Answer enterTakes = Answer::Ok;  // the button that Enter takes; Yes where there is no OK
 };
 
-class Messages {
+class Messages
+{
 public:
     virtual ~Messages() = default;
 

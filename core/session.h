@@ -4,7 +4,8 @@
 
 #include <QString>
 
-struct Session {
+struct Session
+{
     QString JobSitePath;
     QString JobSiteName;  // "Undefined" when the path is no known job site
     qint32 SiteTag = 0;   // prefix of the tags given out on this job site

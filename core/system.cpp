@@ -7,7 +7,10 @@ namespace {
 System* installed = nullptr;
 }
 
-QDateTime System::now() const { return QDateTime::currentDateTime(); }
+QDateTime System::now() const
+{
+    return QDateTime::currentDateTime();
+}
 
 QString System::loginName() const
 {
@@ -21,4 +24,7 @@ System& System::current()
     return installed ? *installed : machine;
 }
 
-void System::install(System* system) { installed = system; }
+void System::install(System* system)
+{
+    installed = system;
+}

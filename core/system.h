@@ -5,11 +5,12 @@
 #include <QDateTime>
 #include <QString>
 
-class System {
+class System
+{
 public:
     virtual ~System() = default;
 
-    virtual QDateTime now() const;    // local wall-clock time
+    virtual QDateTime now() const;      // local wall-clock time
     virtual QString loginName() const;  // empty when the system gives none
 
     static System& current();

@@ -1,0 +1,108 @@
+#include "core/dates.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+#include <optional>
+
+namespace {
+
+struct DateParts
+{
+    QString month;
+    QString day;
+    QString year;  // four digits
+};
+
+bool isNumber(const QString& text)
+{
+    bool ok = false;
+    text.toUInt(&ok);
+    return ok;
+}
+
+QStringList splitDate(const QString& text)
+{
+    static const QRegularExpression separators("[./-]");
+    if (text.contains(separators))
+        return text.split(separators);
+    if (text.size() == 6 || text.size() == 8)
+        return {text.left(2), text.mid(2, 2), text.mid(4)};
+    return {};
+}
+
+bool isDayOfMonth(uint day, uint month)
+{
+    if (month == 0 || month > 12 || day == 0 || day > 31)
+        return false;
+    if (month == 2)
+        return day < 30;
+    const bool shortMonth = month == 4 || month == 6 || month == 9 || month == 11;
+    return day < 31 || !shortMonth;
+}
+
+void mendPivot(int& pivot)
+{
+    pivot = std::abs(pivot);
+    if (pivot == 0 || pivot > 99)
+        pivot = defaultDatePivot;
+}
+
+QString withCentury(const QString& year, int pivot)
+{
+    if (year.size() >= 3)
+        return year;
+    return (year.toInt() > pivot ? "19" : "20") + year.rightJustified(2, '0');
+}
+
+std::optional<DateParts> readDate(const QString& text, int& pivot)
+{
+    mendPivot(pivot);
+    const QStringList parts = splitDate(text.trimmed());
+    if (parts.size() < 3)
+        return std::nullopt;
+    const QString month = parts[0].trimmed();
+    const QString day = parts[1].trimmed();
+    const QString year = parts[2].trimmed();
+    if (!isNumber(month) || !isNumber(day) || !isNumber(year))
+        return std::nullopt;
+    if (!isDayOfMonth(day.toUInt(), month.toUInt()))
+        return std::nullopt;
+    return DateParts{month.rightJustified(2, '0'), day.rightJustified(2, '0'),
+                     withCentury(year, pivot)};
+}
+
+}  // namespace
+
+QString dnFixDate(const QString& text, DateForm form, int& pivot)
+{
+    const auto date = readDate(text, pivot);
+    if (!date)
+        return QString(10, ' ');
+    switch (form) {
+        case DateForm::Digits6:
+            return date->month + date->day + date->year.right(2);
+        case DateForm::Short8:
+            return date->month + '/' + date->day + '/' + date->year.right(2);
+        case DateForm::Long10:
+            break;
+    }
+    return date->month + '/' + date->day + '/' + date->year;
+}
+
+QString dnFixDate(const QString& text, DateForm form)
+{
+    int pivot = defaultDatePivot;
+    return dnFixDate(text, form, pivot);
+}
+
+QString dnDateKey(const QString& text, int& pivot)
+{
+    const auto date = readDate(text, pivot);
+    return date ? date->year + date->month + date->day : QString(8, ' ');
+}
+
+QString dnDateKey(const QString& text)
+{
+    int pivot = defaultDatePivot;
+    return dnDateKey(text, pivot);
+}

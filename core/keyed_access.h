@@ -1,0 +1,48 @@
+// How the program reads records by key. No failure passes these routines' boundary: each shows its
+// own box and gives an empty or false result, with which the callers go on.
+#pragma once
+
+#include <initializer_list>
+
+#include "core/storage/workspace.h"
+
+// One key of a lookup: the field of the record that must hold the value.
+struct KeyField
+{
+    schema::FieldName field;
+    storage::Value key;
+};
+using KeyFields = std::initializer_list<KeyField>;
+
+// A bookmark that names no record.
+inline const QString noBookmark = " ";
+
+// The bookmark of the record that holds all the keys, or empty text. `indexName` becomes the index
+// of `rs`, whose first fields the keys are, in order; at most six. Text must be equal in full, its
+// case included. The handle stays where the seek left it.
+QString dnSeek(storage::Recordset& rs, const QString& indexName, KeyFields keys);
+
+// The field's value; for a null what the program takes for one: false, 0, 01/01/1900, as many
+// blanks as a text field is long, one blank for what has no length.
+storage::Value dnNullCheck(const storage::Field& field);
+
+// The same as text, number and so on, the way screens use it.
+inline QString textOf(const storage::Field& field)
+{
+    return dnNullCheck(field).toString();
+}
+inline QString trimmedTextOf(const storage::Field& field)
+{
+    return textOf(field).trimmed();
+}
+inline int intOf(const storage::Field& field)
+{
+    return dnNullCheck(field).toInt();
+}
+
+// True if `rs` stands on a record whose fields equal the keys, nulls read as above; at most nine.
+bool dnInbounds(storage::Recordset& rs, KeyFields keys);
+
+// Where to stand when the record at `bookmark` will have been deleted: the next record within the
+// keys, else the one before, else " ".
+QString dnNextBookmark(storage::Recordset& rs, const QString& bookmark, KeyFields keys);

@@ -1,0 +1,54 @@
+#include "core/stamps.h"
+
+#include "core/keyed_access.h"
+#include "core/system.h"
+#include "core/text.h"
+
+namespace {
+
+QString stampDate()
+{
+    return System::current().now().toString("MM/dd/yyyy");
+}
+QString stampTime()
+{
+    return System::current().now().toString("h:mm AP");
+}
+
+QString shown(const storage::Field& field)
+{
+    const QString text = trimmedTextOf(field);
+    return text.isEmpty() ? QString("<Empty>") : text;
+}
+
+}  // namespace
+
+void zorStampAdd(storage::Recordset& rs, const QString& bookmark, const QString& userName)
+{
+    rs.Bookmark(bookmark);
+    rs.Edit();
+    rs["ADDNAME"] = userName.trimmed();
+    rs["ADDDATE"] = stampDate();
+    rs["ADDTIME"] = stampTime();
+    rs["EDITNAME"] = " ";
+    rs["EDITDATE"] = " ";
+    rs["EDITTIME"] = " ";
+    rs.Update();
+}
+
+void zorStampEdit(storage::Recordset& rs, const QString& bookmark, const QString& userName)
+{
+    rs.Bookmark(bookmark);
+    rs.Edit();
+    rs["EDITNAME"] = userName.trimmed();
+    rs["EDITDATE"] = stampDate();
+    rs["EDITTIME"] = stampTime();
+    rs.Update();
+}
+
+UpdateHistory updateHistoryOf(storage::Recordset& rs, const QString& bookmark)
+{
+    rs.Bookmark(bookmark);
+    return {.created = {shown(rs["ADDNAME"]), shown(rs["ADDDATE"]), shown(rs["ADDTIME"])},
+            .lastUpdated = {shown(rs["EDITNAME"]), shown(rs["EDITDATE"]), shown(rs["EDITTIME"])}};
+}
