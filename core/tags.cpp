@@ -5,17 +5,11 @@
 #include "core/storage/file_paths.h"
 #include "core/storage/storage_error.h"
 #include "core/text.h"
+#include "core/whole_numbers.h"
 
 namespace {
 
 constexpr qint64 tagsOfASite = 1'000'000;
-
-qint32 asLong(qint64 number)
-{
-    if (!std::in_range<qint32>(number))
-        storage::fail(storage::ErrorNumber::Overflow);
-    return static_cast<qint32>(number);
-}
 
 qint32 drawTag(const QString& file, const QString& fieldName, const QString& tableName, qint32 site)
 {

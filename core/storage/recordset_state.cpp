@@ -7,7 +7,7 @@
 namespace storage {
 namespace {
 
-constexpr int mostRowsAhead = 64;
+constexpr int mostRowsAhead = 256;
 constexpr int fieldsBeforeAll = 10;  // a reader of so many fields one by one wants them all
 
 std::shared_ptr<const ColumnLayout> layoutWith(const ColumnLayout* old, size_t fieldCount,

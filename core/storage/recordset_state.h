@@ -30,7 +30,8 @@ struct DatabaseState
     void touch(bool forWriting) const;
 
     std::shared_ptr<Engine> engine;  // null once closed
-    std::weak_ptr<WorkspaceState> workspace;
+    // Closes this database before it goes, so it is there for as long as the file is open.
+    WorkspaceState* workspace = nullptr;
     std::vector<std::weak_ptr<RecordsetState>> recordsets;
 };
 

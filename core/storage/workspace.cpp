@@ -58,18 +58,15 @@ void WorkspaceState::rollback()
 
 void DatabaseState::touch(bool forWriting) const
 {
-    const bool foreignTransactionMatters = forWriting && engine->inTransaction();
-    const auto owner = workspace.lock();
-    if (!owner || (!owner->inTransaction && !foreignTransactionMatters))
+    if (!workspace->inTransaction && !(forWriting && engine->inTransaction()))
         return;
-    const bool ours =
-        std::find(owner->begun.begin(), owner->begun.end(), engine) != owner->begun.end();
-    if (ours)
+    auto& begun = workspace->begun;
+    if (std::find(begun.begin(), begun.end(), engine) != begun.end())
         return;
     if (engine->inTransaction())
         fail(ErrorNumber::Locked, engine->path());
     engine->begin();
-    owner->begun.push_back(engine);
+    begun.push_back(engine);
 }
 
 bool Database::isOpen() const
@@ -114,8 +111,8 @@ void Database::Close()
         if (const auto recordset = item.lock())
             recordset->close();
     m_state->recordsets.clear();
-    if (const auto owner = m_state->workspace.lock();
-        owner && std::erase(owner->begun, m_state->engine) > 0 && m_state->engine->inTransaction())
+    if (std::erase(m_state->workspace->begun, m_state->engine) > 0 &&
+        m_state->engine->inTransaction())
         m_state->engine->rollback();
     m_state->engine.reset();
 }
@@ -133,7 +130,7 @@ Database openIn(const std::shared_ptr<WorkspaceState>& workspace, std::shared_pt
 {
     auto database = std::make_shared<DatabaseState>();
     database->engine = std::move(engine);
-    database->workspace = workspace;
+    database->workspace = workspace.get();
     dropExpired(workspace->databases);
     workspace->databases.push_back(database);
     return Database(database);
