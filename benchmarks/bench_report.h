@@ -6,7 +6,8 @@
 
 #include <QString>
 
-struct BenchGoal {
+struct BenchGoal
+{
     double ratio;      // the highest that we accept
     QString unit;      // of the printed figures
     double perSecond;  // the unit in seconds: 1e-6 for microseconds

@@ -1,4 +1,4 @@
-#include "bench/bench_site.h"
+#include "benchmarks/bench_site.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -16,8 +16,7 @@ constexpr int rowsACommit = 20'000;
 storage::TableDefinition lineItemsWithBenchIndex()
 {
     storage::TableDefinition lines = storage::definitionOf(schema::RQILIST);
-    lines.indexes.push_back(
-        storage::CreateIndex("BENCH3", {"POTAG", "POITEMNO", "POLINENO"}));
+    lines.indexes.push_back(storage::CreateIndex("BENCH3", {"POTAG", "POITEMNO", "POLINENO"}));
     return lines;
 }
 

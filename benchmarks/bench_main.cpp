@@ -2,8 +2,8 @@
 // vexley_bench --worker ROLE FILE COUNT: one of the processes of a contention benchmark.
 #include <QCoreApplication>
 
-#include "bench/bench_report.h"
-#include "bench/bench_site.h"
+#include "benchmarks/bench_report.h"
+#include "benchmarks/bench_site.h"
 
 void registerStoreBenchmarks();
 void registerContentionBenchmarks();

@@ -1,4 +1,4 @@
-#include "bench/bench_report.h"
+#include "benchmarks/bench_report.h"
 
 #include <cstdio>
 #include <map>
@@ -7,7 +7,8 @@
 
 namespace {
 
-struct Pair {
+struct Pair
+{
     std::string name;
     BenchGoal goal;
 };
@@ -19,7 +20,8 @@ std::vector<Pair>& pairs()
 }
 
 // Keeps the best time of each benchmark: what disturbs a run only ever makes it longer.
-class BestTimes : public benchmark::BenchmarkReporter {
+class BestTimes : public benchmark::BenchmarkReporter
+{
 public:
     bool ReportContext(const Context& /*unused*/) override { return true; }
     void ReportRuns(const std::vector<Run>& runs) override
@@ -49,8 +51,8 @@ private:
 bool printLine(const Pair& pair, const BestTimes& times)
 {
     const double ours = times.of(pair.name + "/ours") / pair.goal.perSecond;
-    const double base = pair.goal.bound > 0 ? pair.goal.bound
-                                            : times.of(pair.name + "/base") / pair.goal.perSecond;
+    const double base =
+        pair.goal.bound > 0 ? pair.goal.bound : times.of(pair.name + "/base") / pair.goal.perSecond;
     if (ours <= 0 || base <= 0) {
         std::printf("%s failed to run\n", pair.name.c_str());
         return false;

@@ -4,8 +4,8 @@
 #include <QFile>
 #include <QRandomGenerator>
 
-#include "bench/bench_report.h"
-#include "bench/bench_site.h"
+#include "benchmarks/bench_report.h"
+#include "benchmarks/bench_site.h"
 #include "core/storage/sqlite_collation.h"
 #include "core/storage/workspace.h"
 
@@ -19,7 +19,8 @@ const BenchGoal memoryGoal{
     .ratio = 1.0, .unit = "MiB", .perSecond = 1, .bound = 1, .ownFigure = true};
 
 // The line items through the engine's own interface.
-struct RawLines {
+struct RawLines
+{
     RawLines()
     {
         sqlite3_open_v2(benchLinesFile().toUtf8().constData(), &db, SQLITE_OPEN_READONLY, nullptr);
@@ -46,11 +47,10 @@ struct RawLines {
                                    sqlite3_column_int64(statement, 1) +
                                    sqlite3_column_int64(statement, 2)) +
                sqlite3_column_double(statement, 3) + sqlite3_column_double(statement, 4) +
-               static_cast<double>(
-                   QString::fromUtf8(
-                       reinterpret_cast<const char*>(sqlite3_column_text(statement, 5)),
-                       sqlite3_column_bytes(statement, 5))
-                       .size());
+               static_cast<double>(QString::fromUtf8(reinterpret_cast<const char*>(
+                                                         sqlite3_column_text(statement, 5)),
+                                                     sqlite3_column_bytes(statement, 5))
+                                       .size());
     }
 
     sqlite3* db = nullptr;
@@ -99,7 +99,10 @@ void walkBase(benchmark::State& state)
     state.counters["items"] = benchLineCount;
 }
 
-int randomTag() { return 1 + static_cast<int>(QRandomGenerator::global()->bounded(benchLineCount)); }
+int randomTag()
+{
+    return 1 + static_cast<int>(QRandomGenerator::global()->bounded(benchLineCount));
+}
 
 void seekOurs(benchmark::State& state)
 {
