@@ -18,9 +18,15 @@ OpenTable openTable(const QString& path, const QString& table)
     return opened;
 }
 
-OpenTable openLocator(const QString& name) { return openTable(name + ".mdb", name); }
+OpenTable openLocator(const QString& name)
+{
+    return openTable(name + ".mdb", name);
+}
 
-bool locatorExists(const QString& name) { return storage::pathExists(name + ".mdb"); }
+bool locatorExists(const QString& name)
+{
+    return storage::pathExists(name + ".mdb");
+}
 
 QString locatorPath(const QString& name)
 {
