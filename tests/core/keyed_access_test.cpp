@@ -42,8 +42,8 @@ TEST_F(KeyedAccess, FindsOnlyARecordThatIsEqualInFull)
     addJob(2, "    ABC", "other company");
     OpenTable jobs = site.open("MAIN.mdb", "JOBLIST");
     const auto seek = [&](int company, const QString& number) {
-        return nameAt(jobs.rs, dnSeek(jobs.rs, "JOBLIST",
-                                      {{"CONO", company}, {"JOBNO", number}}));
+        return nameAt(jobs.rows,
+                      dnSeek(jobs.rows, "JOBLIST", {{"CONO", company}, {"JOBNO", number}}));
     };
     EXPECT_EQ(seek(1, "    ABC"), "first");
     EXPECT_EQ(seek(2, "    ABC"), "other company");
@@ -51,26 +51,26 @@ TEST_F(KeyedAccess, FindsOnlyARecordThatIsEqualInFull)
     EXPECT_EQ(seek(1, "    AB"), "") << "the same start is not enough";
     EXPECT_EQ(seek(1, "    ABCX"), "") << "at or after lands on the next company's record";
     EXPECT_EQ(seek(3, "    ABC"), "") << "past the last record";
-    EXPECT_EQ(nameAt(jobs.rs, dnSeek(jobs.rs, "JOBLIST", {{"CONO", 2}})), "other company");
+    EXPECT_EQ(nameAt(jobs.rows, dnSeek(jobs.rows, "JOBLIST", {{"CONO", 2}})), "other company");
 }
 
 TEST_F(KeyedAccess, TellsOfAnIndexThatIsNotThere)
 {
     OpenTable jobs = site.open("MAIN.mdb", "JOBLIST");
     user.expect("Error", "Error: dnSeek Function NOSUCH");
-    EXPECT_EQ(dnSeek(jobs.rs, "NOSUCH", {{"CONO", 1}}), "");
+    EXPECT_EQ(dnSeek(jobs.rows, "NOSUCH", {{"CONO", 1}}), "");
 }
 
 TEST_F(KeyedAccess, ReadsNullsAsTheProgramTakesThem)
 {
     site.addRow("MAIN.mdb", "JOBLIST", {{"CONO", 7}});
     OpenTable jobs = site.open("MAIN.mdb", "JOBLIST");
-    jobs.rs.MoveFirst();
-    EXPECT_EQ(dnNullCheck(jobs.rs["JOBNO"]), Value(QString(8, ' ')));
-    EXPECT_EQ(dnNullCheck(jobs.rs["CCSIZEA"]), Value(0));
-    EXPECT_EQ(dnNullCheck(jobs.rs["TAXCOST"]), Value(0.0));
-    EXPECT_EQ(dnNullCheck(jobs.rs["VERIFYCC"]), Value(false));
-    EXPECT_EQ(intOf(jobs.rs["CONO"]), 7);
+    jobs.rows.MoveFirst();
+    EXPECT_EQ(dnNullCheck(jobs.rows["JOBNO"]), Value(QString(8, ' ')));
+    EXPECT_EQ(dnNullCheck(jobs.rows["CCSIZEA"]), Value(0));
+    EXPECT_EQ(dnNullCheck(jobs.rows["TAXCOST"]), Value(0.0));
+    EXPECT_EQ(dnNullCheck(jobs.rows["VERIFYCC"]), Value(false));
+    EXPECT_EQ(intOf(jobs.rows["CONO"]), 7);
 }
 
 TEST_F(KeyedAccess, SaysWhichFieldCouldNotBeRead)
@@ -79,7 +79,7 @@ TEST_F(KeyedAccess, SaysWhichFieldCouldNotBeRead)
     user.expect("dn NullCheck Error",
                 "Error Encountered In Function: dnNullCheck() Field: CONO\n"
                 "Error Number: 3021\nError: No current record.");
-    EXPECT_TRUE(dnNullCheck(jobs.rs["CONO"]).isNull());
+    EXPECT_TRUE(dnNullCheck(jobs.rows["CONO"]).isNull());
 }
 
 TEST_F(KeyedAccess, StandsWithinTheParentAfterADeletion)
@@ -89,18 +89,17 @@ TEST_F(KeyedAccess, StandsWithinTheParentAfterADeletion)
     addJob(2, "d", "d");
     OpenTable jobs = site.open("MAIN.mdb", "JOBLIST");
     const KeyFields company = {{"CONO", 1}};
-    jobs.rs.Index("JOBLIST");
+    jobs.rows.Index("JOBLIST");
     const auto next = [&](const QString& number, int of) {
-        const QString bookmark =
-            dnSeek(jobs.rs, "JOBLIST", {{"CONO", of}, {"JOBNO", number}});
-        return nameAt(jobs.rs, dnNextBookmark(jobs.rs, bookmark, {{"CONO", of}}));
+        const QString bookmark = dnSeek(jobs.rows, "JOBLIST", {{"CONO", of}, {"JOBNO", number}});
+        return nameAt(jobs.rows, dnNextBookmark(jobs.rows, bookmark, {{"CONO", of}}));
     };
     EXPECT_EQ(next("a", 1), "b");
     EXPECT_EQ(next("c", 1), "b") << "the last one leaves the one before";
     EXPECT_EQ(next("d", 2), noBookmark) << "the only one leaves nothing";
-    jobs.rs.MoveLast();
-    jobs.rs.MoveNext();
-    EXPECT_FALSE(dnInbounds(jobs.rs, company)) << "past the end is within nothing";
+    jobs.rows.MoveLast();
+    jobs.rows.MoveNext();
+    EXPECT_FALSE(dnInbounds(jobs.rows, company)) << "past the end is within nothing";
 }
 
 class Tags : public KeyedAccess
@@ -148,7 +147,7 @@ protected:
         for (int i = 1; i <= 3; ++i)
             site.addRow("ZORUSER.mdb", "DELJOBLIST", {{"CONO", i}, {"JOBNO", "A"}});
     }
-    bool zap(OpenTable& work) const { return dnZap(site.userFolder(), "ZORUSER.mdb", work.rs); }
+    bool zap(OpenTable& work) const { return dnZap(site.userFolder(), "ZORUSER.mdb", work.rows); }
     bool refusesDoubles() const
     {
         site.addRow("ZORUSER.mdb", "DELJOBLIST", {{"CONO", 9}, {"JOBNO", "A"}});
@@ -166,10 +165,10 @@ TEST_F(Zap, MakesTheTableAnewWithoutItsUniqueAttribute)
     fill();
     OpenTable work = site.open("ZORUSER.mdb", "DELJOBLIST");
     EXPECT_TRUE(zap(work));
-    EXPECT_FALSE(work.rs.isOpen());
+    EXPECT_FALSE(work.rows.isOpen());
     EXPECT_EQ(site.rowCount("ZORUSER.mdb", "DELJOBLIST"), 0);
     const OpenTable again = site.open("ZORUSER.mdb", "DELJOBLIST");
-    EXPECT_EQ(again.rs.definition().indexes.size(),
+    EXPECT_EQ(again.rows.definition().indexes.size(),
               storage::definitionOf(schema::DELJOBLIST).indexes.size());
     EXPECT_FALSE(refusesDoubles());
 }
@@ -180,7 +179,7 @@ TEST_F(Zap, DeletesRowByRowWhereTheMarkerLies)
     site.makeMarker(site.userFolder(), "NOZAP.txt");
     OpenTable work = site.open("ZORUSER.mdb", "DELJOBLIST");
     EXPECT_TRUE(zap(work));
-    EXPECT_FALSE(work.rs.isOpen());
+    EXPECT_FALSE(work.rows.isOpen());
     EXPECT_EQ(site.rowCount("ZORUSER.mdb", "DELJOBLIST"), 0);
     EXPECT_TRUE(refusesDoubles());
 }
@@ -189,7 +188,7 @@ TEST_F(Zap, LeavesAnEmptyTableOpen)
 {
     OpenTable work = site.open("ZORUSER.mdb", "DELJOBLIST");
     EXPECT_TRUE(zap(work));
-    EXPECT_TRUE(work.rs.isOpen());
+    EXPECT_TRUE(work.rows.isOpen());
 }
 
 TEST_F(KeyedAccess, StampsWhoAddedAndWhoChanged)
@@ -197,17 +196,17 @@ TEST_F(KeyedAccess, StampsWhoAddedAndWhoChanged)
     FixedSystem machine("pat", QDateTime(QDate(2026, 3, 7), QTime(9, 5, 42)));
     site.addRow("ZORVEX.mdb", "REQLIST", {{"REQTAG", 1}, {"REQNO", 5}});
     OpenTable requisitions = site.open("ZORVEX.mdb", "REQLIST");
-    const QString bookmark = requisitions.rs.Bookmark();
-    zorStampAdd(requisitions.rs, bookmark, " pat ");
-    UpdateHistory history = updateHistoryOf(requisitions.rs, bookmark);
+    const QString bookmark = requisitions.rows.Bookmark();
+    zorStampAdd(requisitions.rows, bookmark, " pat ");
+    UpdateHistory history = updateHistoryOf(requisitions.rows, bookmark);
     EXPECT_EQ(history.created.userName, "pat");
     EXPECT_EQ(history.created.date, "03/07/2026");
     EXPECT_EQ(history.created.time, "9:05 AM");
     EXPECT_EQ(history.lastUpdated.userName, "<Empty>");
 
     machine.setNow(QDateTime(QDate(2026, 3, 8), QTime(12, 30, 1)));
-    zorStampEdit(requisitions.rs, bookmark, "chris");
-    history = updateHistoryOf(requisitions.rs, bookmark);
+    zorStampEdit(requisitions.rows, bookmark, "chris");
+    history = updateHistoryOf(requisitions.rows, bookmark);
     EXPECT_EQ(history.created.userName, "pat");
     EXPECT_EQ(history.lastUpdated.userName, "chris");
     EXPECT_EQ(history.lastUpdated.time, "12:30 PM");
@@ -218,13 +217,13 @@ TEST_F(KeyedAccess, KnowsTheMarkedRowsOfADocument)
     site.addRow("ZORUSER.mdb", "TAGLIST",
                 {{"DOCCODE", "PO "}, {"DOCTAG", 4}, {"ITEMCODE", "RQI"}, {"ITEMTAG", 17}});
     OpenTable marks = site.open("ZORUSER.mdb", "TAGLIST");
-    EXPECT_TRUE(zorTagListCheck(marks.rs, "PO ", 4, "RQI", 17));
-    EXPECT_FALSE(zorTagListCheck(marks.rs, "PO ", 4, "RQI", 18));
-    EXPECT_FALSE(zorTagListCheck(marks.rs, "PO ", 4, "RQI", 0));
+    EXPECT_TRUE(zorTagListCheck(marks.rows, "PO ", 4, "RQI", 17));
+    EXPECT_FALSE(zorTagListCheck(marks.rows, "PO ", 4, "RQI", 18));
+    EXPECT_FALSE(zorTagListCheck(marks.rows, "PO ", 4, "RQI", 0));
     QString bookmark;
-    EXPECT_FALSE(zorTagListFind(marks.rs, "PO ", 4, "RQI", &bookmark)) << "one is marked";
+    EXPECT_FALSE(zorTagListFind(marks.rows, "PO ", 4, "RQI", &bookmark)) << "one is marked";
     EXPECT_FALSE(bookmark.isEmpty());
-    EXPECT_TRUE(zorTagListFind(marks.rs, "PO ", 5, "RQI", &bookmark)) << "none is marked";
+    EXPECT_TRUE(zorTagListFind(marks.rows, "PO ", 5, "RQI", &bookmark)) << "none is marked";
     EXPECT_TRUE(bookmark.isEmpty());
 }
 

@@ -8,7 +8,8 @@
 
 namespace {
 
-struct Source {
+struct Source
+{
     QString path;  // below the project's folder
     QString text;
 };
@@ -26,8 +27,8 @@ const std::vector<Source>& sources()
             while (files.hasNext()) {
                 QFile file(files.next());
                 if (file.open(QIODevice::ReadOnly))
-                    found.push_back({file.fileName().mid(top.size() + 1),
-                                     QString::fromUtf8(file.readAll())});
+                    found.push_back(
+                        {file.fileName().mid(top.size() + 1), QString::fromUtf8(file.readAll())});
             }
         }
         return found;
@@ -47,11 +48,12 @@ QString roomOf(const QString& path)
 int floorOf(const QString& room)
 {
     static const QHash<QString, int> floors = {
-        {"core/schema", 0}, {"core/storage", 1}, {"core", 2},       {"multiuser", 3},
-        {"screens", 4},     {"screens/report", 4}, {"cost", 5},     {"purchasing", 5},
-        {"receiving", 5},   {"inventory", 5},    {"reports", 5},    {"interchange", 5},
-        {"utilities", 5},   {"app", 6},          {"tools", 6},      {"tests", 7},
-        {"benchmarks", 7},
+        {"core/schema", 0}, {"core/storage", 1}, {"core", 2},
+        {"multiuser", 3},   {"screens", 4},      {"screens/report", 4},
+        {"cost", 5},        {"purchasing", 5},   {"receiving", 5},
+        {"inventory", 5},   {"reports", 5},      {"interchange", 5},
+        {"utilities", 5},   {"app", 6},          {"tools", 6},
+        {"tests", 7},       {"benchmarks", 7},
     };
     return floors.value(room, -1);
 }
@@ -59,8 +61,8 @@ int floorOf(const QString& room)
 QStringList includesOf(const Source& source, const char* pattern)
 {
     QStringList found;
-    auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption)
-                       .globalMatch(source.text);
+    auto matches =
+        QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(source.text);
     while (matches.hasNext())
         found.append(matches.next().captured(1));
     return found;
@@ -75,8 +77,8 @@ TEST(Rooms, IncludeOnlyThemselvesAndWhatIsBelow)
         for (const QString& include : includesOf(source, "^#include \"([^\"]+)\"")) {
             const int other = floorOf(roomOf(include));
             const bool neighbours = other == own && (own == 4 || own == 5);
-            EXPECT_TRUE(other >= 0 && (other < own || neighbours ||
-                                       roomOf(include) == roomOf(source.path)))
+            EXPECT_TRUE(other >= 0 &&
+                        (other < own || neighbours || roomOf(include) == roomOf(source.path)))
                 << qPrintable(source.path) << " includes " << qPrintable(include);
         }
     }
@@ -89,20 +91,22 @@ TEST(Rooms, WithoutWidgetsKnowTheCoreLibraryAlone)
         "Key|Mouse|Table|Line|Label|Push|Menu|Action|Application)\\w*)",
         QRegularExpression::MultilineOption);
     for (const Source& source : sources()) {
-        const int own = floorOf(roomOf(source.path));
-        if (own <= 3)
+        if (floorOf(roomOf(source.path)) <= 3) {
             EXPECT_FALSE(source.text.contains(widgets)) << qPrintable(source.path);
+        }
     }
 }
 
 TEST(Rooms, LetOnlyTheDriverSeeTheEngine)
 {
-    for (const Source& source : sources())
-        if (source.text.contains("#include <sqlite3.h>"))
+    for (const Source& source : sources()) {
+        if (source.text.contains("#include <sqlite3.h>")) {
             EXPECT_TRUE(source.path.startsWith("core/storage/sqlite_") ||
                         source.path.startsWith("benchmarks/") ||
                         source.path.startsWith("tests/core/storage/"))
                 << qPrintable(source.path);
+        }
+    }
 }
 
 TEST(Rooms, ShowBoxesOnlyThroughTheSeam)
@@ -110,9 +114,12 @@ TEST(Rooms, ShowBoxesOnlyThroughTheSeam)
     for (const Source& source : sources()) {
         if (source.path.startsWith("tests/"))
             continue;
-        for (const char* box : {"QMessageBox", "QFileDialog", "QPrintDialog", "QInputDialog"})
-            if (source.text.contains(box))
-                EXPECT_TRUE(source.path.startsWith("screens/qt_")) << qPrintable(source.path) << box;
+        for (const char* box : {"QMessageBox", "QFileDialog", "QPrintDialog", "QInputDialog"}) {
+            if (source.text.contains(box)) {
+                EXPECT_TRUE(source.path.startsWith("screens/qt_"))
+                    << qPrintable(source.path) << box;
+            }
+        }
     }
 }
 
