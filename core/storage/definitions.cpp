@@ -17,12 +17,12 @@ int positionByName(const Items& items, const QString& name)
     return -1;
 }
 
-// A text that is a number as a whole, or fails.
+// A text that is a number as a whole, or fails. Words for infinity and the like are none.
 double numberFromText(const FieldDefinition& field, const QString& text)
 {
     bool ok = false;
     const double number = text.trimmed().toDouble(&ok);
-    if (!ok)
+    if (!ok || !std::isfinite(number))
         fail(ErrorNumber::Conversion, field.name);
     return number;
 }
@@ -58,6 +58,12 @@ Value money(const FieldDefinition& field, const Value& value)
 {
     if (value.as<Currency>())
         return value;
+    if (const auto* whole = value.as<qint64>()) {
+        qint64 exact = 0;
+        if (qMulOverflow(*whole, qint64(10'000), &exact))
+            fail(ErrorNumber::NumericOverflow, field.name);
+        return Currency{exact};
+    }
     const double tenThousandths = std::nearbyint(numberOf(field, value) * 10000.0);
     if (std::abs(tenThousandths) >= 9.2e18)
         fail(ErrorNumber::NumericOverflow, field.name);
