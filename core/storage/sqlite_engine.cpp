@@ -84,8 +84,8 @@ SqliteEngine::SqliteEngine(const QString& path, SqliteConnection::Mode mode)
       m_turn(path),
       m_onShare(liesOnShare(path))
 {
-    // With the head of the file mapped, a look at its counters costs nanoseconds, not a system call.
-    // No more of it: a file that someone cuts short under a mapping would end the process.
+    // With the head of the file mapped, a look at its counters costs nanoseconds, not a system
+    // call. No more of it: a file that someone cuts short under a mapping would end the process.
     if (!m_onShare)
         m_connection.execute("PRAGMA mmap_size = 65536");
     if (mode == SqliteConnection::Mode::Create)
@@ -182,8 +182,7 @@ void SqliteEngine::fetchRecord(FetchPlan& plan, RecordId id, RowBlock& block)
 {
     auto& rows = static_cast<SqliteFetch&>(plan);
     block.start(rows.columnCount());
-    block.version = version();  // older than the row at worst: then it is only read again
-    rows.fetchRecord(id, block);
+    rows.fetchRecord(id, block, [&] { block.version = version(); });
 }
 
 qint64 SqliteEngine::count(const TableDefinition& table)
@@ -392,7 +391,13 @@ void SqliteEngine::takeLease()
     if (leaseHolds() || m_connection.inTransaction() || !QAbstractEventDispatcher::instance())
         return;
     m_connection.execute("BEGIN");
-    m_connection.query("SELECT count(*) FROM _tables WHERE rowid < 0", [](SqliteStatement&) {});
+    try {
+        m_connection.query("SELECT count(*) FROM _tables WHERE rowid < 0", [](SqliteStatement&) {});
+    } catch (...) {
+        // Left open, it would swallow the next write, which then would never be committed.
+        m_connection.execute("ROLLBACK");
+        throw;
+    }
     m_leaseVersion = version();
     m_leaseOpen = true;
     m_leaseAge.start();

@@ -22,7 +22,6 @@ SqliteFetch::SqliteFetch(SqliteConnection& connection, std::shared_ptr<const Tab
     if (index >= 0) {
         const IndexDefinition& definition = m_table->indexes[static_cast<size_t>(index)];
         m_source += " INDEXED BY " + quotedIndexName(m_table->name, definition.name);
-        m_unique = definition.unique;
         for (const QString& field : definition.fields)
             m_keys.push_back(quotedName(field));
     }
@@ -48,7 +47,8 @@ std::vector<SqliteFetch::Segment> SqliteFetch::segments(Direction direction,
     std::vector<Segment> result;
     if (start.id == 0)
         result.push_back({keyCount, Beyond::Nothing});
-    else if (!m_unique || hasNull(start.key))
+    else
+        // Along a unique index, too: another record may have taken the key since it was read.
         result.push_back({keyCount, Beyond::Id});
     if (start.onlyEqual)
         return result;
@@ -128,7 +128,8 @@ SqliteStatement& SqliteFetch::segmentStatement(Direction direction, Segment segm
     return statement;
 }
 
-void SqliteFetch::fetchRecord(RecordId id, RowBlock& block)
+void SqliteFetch::fetchRecord(RecordId id, RowBlock& block,
+                              const std::function<void()>& underReadLock)
 {
     if (!m_byId.isPrepared())
         m_byId = SqliteStatement(
@@ -136,7 +137,9 @@ void SqliteFetch::fetchRecord(RecordId id, RowBlock& block)
             selectSql().replace(m_source, " FROM " + quotedName(m_table->name)) + " WHERE _id=?");
     const SqliteStatement::Run run(m_byId);
     m_byId.bindInteger(1, id);
-    if (m_byId.step())
+    const bool found = m_byId.step();
+    underReadLock();
+    if (found)
         addRow(m_byId, block);
 }
 

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 
 #include "core/storage/engine.h"
 #include "core/storage/sqlite_connection.h"
@@ -29,7 +30,7 @@ public:
     template <class AtFirstRow>
     void fetch(Direction direction, const FetchStart& start, int limit, RowBlock& block,
                AtFirstRow atFirstRow);
-    void fetchRecord(RecordId id, RowBlock& block);
+    void fetchRecord(RecordId id, RowBlock& block, const std::function<void()>& underReadLock);
 
     size_t columnCount() const { return m_columns.size(); }
 
@@ -58,7 +59,6 @@ private:
     std::vector<int> m_columns;
     std::vector<QByteArray> m_keys;  // quoted names of the index's fields
     QByteArray m_source;             // table and index
-    bool m_unique = false;
     // Prepared when first needed. Row values by key count; segments by direction, equal keys, kind.
     std::array<SqliteStatement, 12> m_rowValues;
     std::array<std::array<std::array<SqliteStatement, 5>, 11>, 2> m_segments;
