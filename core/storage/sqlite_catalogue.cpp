@@ -43,6 +43,8 @@ void refuseUnknownFields(const TableDefinition& table, const IndexDefinition& in
 {
     if (index.fields.isEmpty())
         fail(ErrorNumber::IndexNotFound, index.name);
+    if (static_cast<size_t>(index.fields.size()) > schema::Index{}.keys.size())
+        fail(ErrorNumber::TooManyFields, index.name);
     for (const QString& field : index.fields)
         if (table.fieldPosition(field) < 0)
             fail(ErrorNumber::NotInCollection, field);
@@ -76,6 +78,24 @@ void SqliteCatalogue::load()
 {
     if (m_loaded)
         return;
+    // All three tables as of one moment: others may be changing definitions.
+    const bool ownTransaction = !m_connection.inTransaction();
+    if (ownTransaction)
+        m_connection.execute("BEGIN");
+    try {
+        loadTables();
+    } catch (...) {
+        if (ownTransaction)
+            m_connection.execute("ROLLBACK");
+        throw;
+    }
+    if (ownTransaction)
+        m_connection.execute("COMMIT");
+    m_loaded = true;
+}
+
+void SqliteCatalogue::loadTables()
+{
     QHash<QString, std::shared_ptr<TableDefinition>> tables;
     m_names.clear();
     m_connection.query("SELECT name FROM _tables ORDER BY rowid", [&](SqliteStatement& row) {
@@ -106,7 +126,6 @@ void SqliteCatalogue::load()
         it.value()->numberFields();
         m_tables.insert(it.key(), it.value());
     }
-    m_loaded = true;
 }
 
 void SqliteCatalogue::loadIndexes(QHash<QString, std::shared_ptr<TableDefinition>>& tables)

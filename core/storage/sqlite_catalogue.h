@@ -39,6 +39,7 @@ public:
 
 private:
     void load();
+    void loadTables();
     void loadIndexes(QHash<QString, std::shared_ptr<TableDefinition>>& tables);
     std::shared_ptr<const TableDefinition> existing(const QString& table);
     void recordField(const QString& table, const FieldDefinition& field);

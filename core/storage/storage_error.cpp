@@ -43,6 +43,8 @@ QString standingText(ErrorNumber number)
             return "The field '%1' is too small to accept the amount of data you attempted to add.";
         case ErrorNumber::RecordDeleted:
             return "Record is deleted.";
+        case ErrorNumber::TooManyFields:
+            return "Too many fields defined in '%1'.";
         case ErrorNumber::FieldExists:
             return "Cannot define field '%1' more than once.";
         case ErrorNumber::DatabaseExists:

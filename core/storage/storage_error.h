@@ -26,6 +26,7 @@ enum class ErrorNumber : int {
     BookmarkNotValid = 3159,
     TooLong = 3163,
     RecordDeleted = 3167,
+    TooManyFields = 3190,
     FieldExists = 3191,
     DatabaseExists = 3204,
     Locked = 3260,
