@@ -44,8 +44,6 @@ public:
         if (known != m_entries.end() && mode == SqliteConnection::Mode::Existing &&
             known->identity == identity && identity != FileIdentity{})
             return handOut(*known);
-        if (known != m_entries.end())
-            m_entries.erase(known);
         Entry entry{std::make_shared<SqliteEngine>(path, mode), {}, identityOf(path), {}};
         return handOut(*m_entries.insert(path, std::move(entry)));
     }

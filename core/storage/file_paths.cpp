@@ -41,7 +41,7 @@ QString nativePath(const QString& storedPath)
     static QHash<QString, QString> known;
     const qsizetype cut = wanted.lastIndexOf('/');
     const QString folder = wanted.left(cut);
-    QString found = known.value(folder);
+    QString found = QFileInfo::exists(folder) ? folder : known.value(folder);
     if (found.isEmpty() || !QFileInfo::exists(found)) {
         found.clear();
         for (const QString& part : folder.split('/', Qt::SkipEmptyParts))

@@ -15,8 +15,6 @@ Engine* engineOf(const TableDefState& table)
     const auto database = table.home.lock();
     if (!database)
         return nullptr;
-    if (!database->engine)
-        fail(ErrorNumber::ClosedObject);
     database->touch(true);
     return database->engine.get();
 }

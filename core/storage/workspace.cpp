@@ -24,6 +24,16 @@ QString withExtension(const QString& path)
     return QFileInfo(nativePath(trimmed)).suffix().isEmpty() ? trimmed + ".mdb" : trimmed;
 }
 
+// Whether the same file is open in this workspace once more, so that its transaction goes on.
+bool isOpenTwice(const DatabaseState& database)
+{
+    const auto& databases = database.workspace->databases;
+    return std::any_of(databases.begin(), databases.end(), [&](const auto& item) {
+        const auto other = item.lock();
+        return other && other.get() != &database && other->engine == database.engine;
+    });
+}
+
 WorkspaceState& opened(const std::shared_ptr<WorkspaceState>& state)
 {
     if (!state)
@@ -58,6 +68,8 @@ void WorkspaceState::rollback()
 
 void DatabaseState::touch(bool forWriting) const
 {
+    if (!engine)
+        fail(ErrorNumber::ClosedObject);
     if (!workspace->inTransaction && !(forWriting && engine->inTransaction()))
         return;
     auto& begun = workspace->begun;
@@ -111,7 +123,7 @@ void Database::Close()
         if (const auto recordset = item.lock())
             recordset->close();
     m_state->recordsets.clear();
-    if (std::erase(m_state->workspace->begun, m_state->engine) > 0 &&
+    if (!isOpenTwice(*m_state) && std::erase(m_state->workspace->begun, m_state->engine) > 0 &&
         m_state->engine->inTransaction())
         m_state->engine->rollback();
     m_state->engine.reset();
