@@ -155,9 +155,7 @@ void Startup::findUserSettings()
     m_session.UserSettingsPath = readUserSettingsPath();
     const QString database = joinPath(m_session.UserSettingsPath, "ZORUSER.mdb");
     if (!isThere(database))
-        m_session.StartupErrors += "Cannot find the database file: " + database +
-                                   "\nThis is a CRITICAL database and must be present\n"
-                                   "for this application to run properly.";
+        m_session.StartupErrors += missingUserDatabaseText(database);
 }
 
 QString Startup::readUserSettingsPath()

@@ -37,3 +37,10 @@ QString trimmedPath(const storage::Recordset& rows)
 {
     return rows["Path"].value().toString().trimmed();
 }
+
+QString missingUserDatabaseText(const QString& database)
+{
+    return "Cannot find the database file: " + database +
+           "\nThis is a CRITICAL database and must be present\n"
+           "for this application to run properly.";
+}

@@ -37,3 +37,6 @@ QString locatorPath(const QString& name);
 
 // The folder in the table's `Path`, trimmed; `rows` has to stand on a record.
 QString trimmedPath(const storage::Recordset& rows);
+
+// What is told of a user settings folder in which `database`, its ZORUSER.mdb, is not there.
+QString missingUserDatabaseText(const QString& database);

@@ -1,0 +1,132 @@
+#include "app/desktop_area.h"
+
+#include <QMdiSubWindow>
+
+DesktopArea::DesktopArea(const QString& programName) : m_programName(programName)
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    takeBackground();
+}
+
+void DesktopArea::setSiteName(const QString& siteName)
+{
+    m_siteName = siteName;
+    viewport()->update();
+}
+
+void DesktopArea::addScreen(QWidget* screen, bool centred)
+{
+    QMdiSubWindow* window = addSubWindow(screen);
+    window->setAttribute(Qt::WA_DeleteOnClose);
+    // A screen that closes by itself takes its frame with it.
+    if (auto* dialog = qobject_cast<QDialog*>(screen))
+        connect(dialog, &QDialog::finished, window, &QObject::deleteLater);
+    else
+        screen->installEventFilter(this);
+    window->resize(window->sizeHint().expandedTo(screen->size()).boundedTo(viewport()->size()));
+    if (centred)
+        window->move((viewport()->width() - window->width()) / 2,
+                     (viewport()->height() - window->height()) / 2);
+    window->show();
+}
+
+bool DesktopArea::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Close) {
+        auto* screen = qobject_cast<QWidget*>(watched);
+        // Whether the screen agrees is known only after it has handled the event.
+        if (screen && screen->parentWidget())
+            QMetaObject::invokeMethod(
+                screen,
+                [screen] {
+                    if (screen->isHidden() && screen->parentWidget())
+                        screen->parentWidget()->deleteLater();
+                },
+                Qt::QueuedConnection);
+    }
+    return QMdiArea::eventFilter(watched, event);
+}
+
+bool DesktopArea::bringToFront(const QString& screenName)
+{
+    for (QMdiSubWindow* window : subWindowList())
+        if (window->widget() && window->widget()->objectName() == screenName) {
+            if (window->isMinimized())
+                window->showNormal();
+            setActiveSubWindow(window);
+            return true;
+        }
+    return false;
+}
+
+void DesktopArea::tileHorizontally()
+{
+    tile(1, static_cast<int>(windowsToTile().size()));
+}
+
+void DesktopArea::tileVertically()
+{
+    tile(static_cast<int>(windowsToTile().size()), 1);
+}
+
+QList<QMdiSubWindow*> DesktopArea::windowsToTile() const
+{
+    QList<QMdiSubWindow*> windows;
+    for (QMdiSubWindow* window : subWindowList())
+        if (window->isVisible() && !window->isMinimized())
+            windows.append(window);
+    return windows;
+}
+
+void DesktopArea::tile(int columns, int rows)
+{
+    const QList<QMdiSubWindow*> windows = windowsToTile();
+    const QRect area = viewport()->rect();
+    for (int i = 0; i < windows.size(); ++i) {
+        const int column = i % columns;
+        const int row = i / columns;
+        const QPoint from(area.width() * column / columns, area.height() * row / rows);
+        const QPoint to(area.width() * (column + 1) / columns, area.height() * (row + 1) / rows);
+        windows[i]->showNormal();
+        windows[i]->setGeometry(QRect(from, QSize(to.x() - from.x(), to.y() - from.y())));
+    }
+}
+
+void DesktopArea::takeBackground()
+{
+    setBackground(palette().color(QPalette::Window).darker(106));
+}
+
+void DesktopArea::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        takeBackground();
+    QMdiArea::changeEvent(event);
+}
+
+void DesktopArea::mousePressEvent(QMouseEvent* event)
+{
+    QMdiArea::mousePressEvent(event);
+    cascadeSubWindows();
+}
+
+void DesktopArea::paintEvent(QPaintEvent* event)
+{
+    QMdiArea::paintEvent(event);
+    QPainter painter(viewport());
+    QColor quiet = palette().color(QPalette::WindowText);
+    quiet.setAlphaF(0.55F);
+    painter.setPen(quiet);
+    const QRect area = viewport()->rect();
+    QFont font = painter.font();
+    const double size = font.pointSizeF();
+    font.setPointSizeF(size * 2.2);
+    painter.setFont(font);
+    painter.drawText(area.adjusted(0, 0, 0, -area.height() / 2), Qt::AlignHCenter | Qt::AlignBottom,
+                     m_programName);
+    font.setPointSizeF(size * 1.2);
+    painter.setFont(font);
+    painter.drawText(area.adjusted(0, area.height() / 2 + 6, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+                     m_siteName);
+}

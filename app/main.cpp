@@ -1,0 +1,58 @@
+#include <QDir>
+#include <QFileInfo>
+#include <cstdlib>
+
+#include "app/main_window.h"
+#include "core/locators.h"
+#include "core/storage/storage_error.h"
+#include "screens/command_runner.h"
+#include "screens/qt_messages.h"
+
+namespace {
+
+// Failures of the store that no command has met: shown, and the program goes on.
+class VexleyApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        try {
+            return QApplication::notify(receiver, event);
+        } catch (const storage::StorageError& error) {
+            showStorageError(error);
+            return true;
+        }
+    }
+};
+
+// The program runs in the folder that holds the locator files: the current one, or where the
+// program itself lies for those who start it from elsewhere.
+void findProgramFolder()
+{
+    const QString own = QCoreApplication::applicationDirPath();
+    if (!locatorExists("VEXPATH") && QFileInfo::exists(own + "/VEXPATH.mdb"))
+        QDir::setCurrent(own);
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    VexleyApplication application(argc, argv);
+    QCoreApplication::setApplicationName("Vexley Module");
+    // The splash and boxes come and go before the main window is there.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setStyle("Fusion");
+    findProgramFolder();
+
+    QtMessages messages;
+    Messages::install(&messages);
+    frmVEXMAIN mainWindow([] { std::_Exit(EXIT_SUCCESS); });
+    QTimer::singleShot(0, &mainWindow, [&] {
+        if (mainWindow.load() == LoadResult::EndProcess)
+            QCoreApplication::exit();
+    });
+    return QApplication::exec();
+}

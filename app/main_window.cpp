@@ -1,0 +1,232 @@
+#include "app/main_window.h"
+
+#include "app/desktop_area.h"
+#include "app/screen_table.h"
+#include "app/window_place.h"
+#include "core/messages.h"
+#include "core/text.h"
+#include "multiuser/users.h"
+#include "screens/command_runner.h"
+#include "screens/job_site_choice.h"
+#include "screens/notices.h"
+#include "screens/plain_notes.h"
+#include "screens/splash.h"
+#include "screens/user_settings.h"
+
+namespace {
+constexpr char moduleName[] = "Vexley Module";
+}
+
+frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
+    : m_endProcess(std::move(endProcess)),
+      m_area(new DesktopArea(moduleName)),
+      m_desktopBefore(Desktop::install(this))
+{
+    setObjectName("frmVEXMAIN");
+    setWindowTitle(m_session.MainTitle);
+    resize(1120, 680);
+    setCentralWidget(m_area);
+    buildMenus();
+    buildStatusBar();
+    connect(&m_timer, &QTimer::timeout, this, [this] { m_watch.tick(); });
+    installRefusalScreen([](const QString& userName, const QString& process) {
+        frmDNNETNoAccess(userName, process)->exec();
+    });
+}
+
+frmVEXMAIN::~frmVEXMAIN()
+{
+    installRefusalScreen({});
+    Desktop::install(m_desktopBefore);
+}
+
+LoadResult frmVEXMAIN::load()
+{
+    const LoadResult result = m_startup.load();
+    showSession();
+    restorePlace();
+    return result;
+}
+
+void frmVEXMAIN::buildMenus()
+{
+    QList<QMenu*> menus;  // the open one of each depth
+    const std::span<const MenuEntry> table = menuTable();
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const MenuEntry& entry = table[i];
+        menus.resize(entry.depth);
+        if (entriesBelow(i).empty()) {
+            QAction* action = menus.last()->addAction(entry.caption);
+            action->setObjectName(entry.name);
+            connect(action, &QAction::triggered, this, [this, &entry] { open(entry); });
+            continue;
+        }
+        QMenu* menu = menus.isEmpty() ? menuBar()->addMenu(entry.caption)
+                                      : menus.last()->addMenu(entry.caption);
+        menu->setObjectName(entry.name);
+        menu->menuAction()->setObjectName(entry.name);
+        menus.append(menu);
+    }
+}
+
+void frmVEXMAIN::buildStatusBar()
+{
+    m_user = new QLabel;
+    m_user->setObjectName("lblUserName");
+    m_site = new QLabel;
+    m_site->setObjectName("lblJobSiteName");
+    statusBar()->addWidget(m_user);
+    statusBar()->addWidget(m_site, 1);
+    statusBar()->addPermanentWidget(
+        new QLabel("Alt+letter: menu    Ctrl+Tab: next screen    Ctrl+F4: close screen"));
+}
+
+void frmVEXMAIN::showSession()
+{
+    const bool loaded = dnNotBlank(m_session.JobSiteName);
+    m_area->setSiteName(loaded ? m_session.JobSiteName : QString());
+    m_user->setText(dnIsBlank(m_session.UserName) ? QString() : "User: " + m_session.UserName);
+    m_site->setText(loaded ? "Job Site: " + m_session.JobSiteName : QString());
+    m_site->setToolTip(m_session.JobSitePath);
+}
+
+void frmVEXMAIN::open(const MenuEntry& entry)
+{
+    runCommand([&] {
+        const bool mayRun = !*entry.right || dnOK2Access(entry.right, m_session.UserName, true);
+        if (mayRun && !runOwnCommand(entry.name))
+            openNamed(entry);
+    });
+}
+
+bool frmVEXMAIN::runOwnCommand(const QString& entryName)
+{
+    static const QHash<QString, void (frmVEXMAIN::*)()> commands = {
+        {"miSelectDB", &frmVEXMAIN::selectJobSite},
+        {"miUSERSET", &frmVEXMAIN::editUserSettings},
+        {"miHelpAbout", &frmVEXMAIN::showAbout},
+        {"miExit", &frmVEXMAIN::exitProgram},
+        {"miHorizontally", &frmVEXMAIN::tileHorizontally},
+        {"miVertical", &frmVEXMAIN::tileVertically},
+        {"miCascade", &frmVEXMAIN::cascade},
+    };
+    const auto command = commands.value(entryName);
+    if (command)
+        (this->*command)();
+    return command;
+}
+
+void frmVEXMAIN::openNamed(const MenuEntry& entry)
+{
+    const ScreenFactory* factory = findScreen(entry.screen);
+    if (!factory) {
+        dnNotReady();
+        return;
+    }
+    if (opensOneScreenOnly(entry) && m_area->bringToFront(entry.screen))
+        return;
+    QWidget* screen = factory->create({m_session, entry.mode, m_area->viewport()->size()});
+    if (isUtility(entry))
+        screen->setWindowTitle(m_session.JobSiteName + " - " + screen->windowTitle());
+    openScreen(screen);
+}
+
+void frmVEXMAIN::openScreen(QWidget* screen)
+{
+    m_area->addScreen(screen, !isMaximized());
+}
+
+void frmVEXMAIN::selectJobSite()
+{
+    frmDBPSelect choice(m_session);
+    choice.exec();
+    m_startup.takeJobSite(choice.selectedPath());
+    showSession();
+}
+
+void frmVEXMAIN::editUserSettings()
+{
+    frmUSERSET settings(m_session);
+    settings.exec();
+    m_session.UserSettingsPath = settings.userSettingsPath();
+}
+
+void frmVEXMAIN::showAbout()
+{
+    frmAboutView(QString("About ") + moduleName, moduleName, m_session.VersionText)->exec();
+}
+
+void frmVEXMAIN::exitProgram()
+{
+    savePlace();
+    QCoreApplication::exit();
+}
+
+void frmVEXMAIN::tileHorizontally()
+{
+    m_area->tileHorizontally();
+}
+void frmVEXMAIN::tileVertically()
+{
+    m_area->tileVertically();
+}
+void frmVEXMAIN::cascade()
+{
+    m_area->cascadeSubWindows();
+}
+
+void frmVEXMAIN::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    exitProgram();
+}
+
+void frmVEXMAIN::restorePlace()
+{
+    const QByteArray place = storedWindowPlace(m_session.UserSettingsPath);
+    if (!place.isEmpty())
+        restoreGeometry(place);
+}
+
+void frmVEXMAIN::savePlace() const
+{
+    storeWindowPlace(m_session.UserSettingsPath, saveGeometry());
+}
+
+void frmVEXMAIN::showShutdownNotice()
+{
+    frmZORShutdown(moduleName).exec();
+}
+
+void frmVEXMAIN::showSplash(const QString& versionText)
+{
+    frmVEXSplash splash(moduleName, versionText);
+    m_splash = &splash;
+    splash.exec();
+}
+
+void frmVEXMAIN::setCaption(const QString& caption)
+{
+    setWindowTitle(caption);
+}
+
+void frmVEXMAIN::setTimerInterval(int milliseconds)
+{
+    m_timer.start(milliseconds);
+}
+
+bool frmVEXMAIN::splashIsOpen() const
+{
+    return m_splash && m_splash->isVisible();
+}
+
+void frmVEXMAIN::closeSplash()
+{
+    if (m_splash)
+        m_splash->close();
+}
+
+void frmVEXMAIN::showWarning()
+{
+    frmZORWarning(moduleName).exec();
+}

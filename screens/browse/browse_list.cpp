@@ -1,0 +1,358 @@
+#include "screens/browse/browse_list.h"
+
+#include <algorithm>
+
+#include "core/storage/file_paths.h"
+#include "core/storage/storage_error.h"
+
+using storage::ErrorNumber;
+using storage::StorageError;
+
+void BrowseList::open(const BrowseSource& source, const QString& workspaceName)
+{
+    m_source = source;
+    m_workspace = storage::CreateWorkspace(workspaceName);
+    m_database = m_workspace.OpenDatabase(storage::joinPath(source.folder, source.file));
+    m_rows = m_database.OpenRecordset(source.table);
+    m_rows.Index(source.index);
+    showEmpty();
+}
+
+void BrowseList::close()
+{
+    m_workspace.Close();
+}
+
+// A record that vanished under a move is no reason to tell the user of an error: the list is read
+// anew, as it will look to him from now on.
+template <class Move>
+void BrowseList::guarded(Move move)
+{
+    try {
+        move();
+    } catch (const StorageError& error) {
+        if (error.errorNumber() != ErrorNumber::RecordDeleted)
+            throw;
+        BrowseCurrent = noBookmark;
+        m_fresh = BrowseRow == 0;
+        rebuild();
+    }
+}
+
+bool BrowseList::withinFilter()
+{
+    if (m_rows.BOF() || m_rows.EOF())
+        return false;
+    return dnInbounds(m_rows, m_source.parent) && (!m_source.accepts || m_source.accepts(m_rows));
+}
+
+// One record along the index, passing over what a narrower filter refuses; false at the end of the
+// parent's records.
+bool BrowseList::step(bool forward)
+{
+    while (forward ? m_rows.MoveNext() : m_rows.MovePrevious()) {
+        if (!dnInbounds(m_rows, m_source.parent))
+            return false;
+        if (!m_source.accepts || m_source.accepts(m_rows))
+            return true;
+    }
+    return false;
+}
+
+bool BrowseList::goTo(const QString& bookmark)
+{
+    if (bookmark == noBookmark)
+        return false;
+    m_rows.Bookmark(bookmark);
+    return true;
+}
+
+void BrowseList::findEnds()
+{
+    BrowseFirst = BrowseLast = noBookmark;
+    if (m_rows.RecordCount() == 0)
+        return;
+    std::vector<storage::Value> keys;
+    for (const KeyField& key : m_source.parent)
+        keys.push_back(key.key);
+    const bool any = keys.empty() ? m_rows.MoveFirst() : m_rows.seekKeys("=", keys);
+    if (!any || (!withinFilter() && !step(true)))
+        return;
+    BrowseFirst = m_rows.Bookmark();
+    m_rows.seekLast(keys);
+    if (withinFilter() || step(false))
+        BrowseLast = m_rows.Bookmark();
+}
+
+void BrowseList::fill(const std::vector<KeyField>& parent)
+{
+    m_source.parent = parent;
+    BrowseRow = 0;
+    BrowseTop = BrowseCurrent = BrowseFirst = noBookmark;
+    m_fresh = true;
+    rebuild();
+}
+
+void BrowseList::rebuild()
+{
+    m_rows.Close();
+    m_rows = m_database.OpenRecordset(m_source.table);
+    m_rows.Index(m_source.index);
+    findEnds();
+    if (BrowseFirst == noBookmark)
+        return showEmpty();
+    if (BrowseCurrent != noBookmark) {
+        try {
+            m_rows.Bookmark(BrowseCurrent);
+            if (!withinFilter())
+                BrowseCurrent = noBookmark;
+        } catch (const StorageError&) {
+            BrowseCurrent = noBookmark;
+        }
+    }
+    if (m_fresh && BrowseCurrent == noBookmark) {
+        BrowseRow = 0;
+        BrowseCurrent = BrowseFirst;
+    }
+    m_fresh = false;
+    keepRowInView();
+    repaint();
+}
+
+void BrowseList::useIndex(const QString& index)
+{
+    m_source.index = index;
+    rebuild();
+}
+
+// Finds the record for row 0 that leaves the highlight on its row, as far as there are records.
+void BrowseList::keepRowInView()
+{
+    const bool onEnd = BrowseCurrent == noBookmark;
+    goTo(onEnd ? BrowseLast : BrowseCurrent);
+    BrowseTop = m_rows.Bookmark();
+    int missing = onEnd ? BrowseRow - 1 : BrowseRow;
+    if (missing < 0) {
+        // The end of the list alone on row 0 would hide every record.
+        BrowseRow = std::min(1, BrowseMaxRow);
+        missing = 0;
+    }
+    for (; missing > 0 && step(false); --missing)
+        BrowseTop = m_rows.Bookmark();
+    BrowseRow -= missing;
+}
+
+void BrowseList::showEmpty()
+{
+    BrowseRow = 0;
+    BrowseTop = BrowseCurrent = noBookmark;
+    m_lines.assign(static_cast<size_t>(BrowseMaxRow) + 1, {});
+    m_lines[0].kind = BrowseLine::Kind::ListIsEmpty;
+    m_fresh = true;
+}
+
+BrowseLine BrowseList::lineHere()
+{
+    return {BrowseLine::Kind::Record, m_rows.Bookmark(), m_readCells(m_rows)};
+}
+
+void BrowseList::repaint()
+{
+    if (BrowseFirst == noBookmark)
+        return showEmpty();
+    m_lines.assign(static_cast<size_t>(BrowseMaxRow) + 1, {});
+    bool inside = goTo(BrowseTop) && withinFilter();
+    for (BrowseLine& line : m_lines) {
+        if (!inside) {
+            line.kind = BrowseLine::Kind::EndOfList;
+            return;
+        }
+        line = lineHere();
+        inside = step(true);
+    }
+}
+
+void BrowseList::show(const QString& bookmark)
+{
+    if (bookmark.trimmed().isEmpty())
+        return;
+    guarded([&] {
+        goTo(bookmark);
+        BrowseTop = BrowseCurrent = bookmark;
+        BrowseRow = 0;
+        repaint();
+    });
+}
+
+void BrowseList::setRowCount(int rows)
+{
+    const int last = std::max(rows, 1) - 1;
+    if (last == BrowseMaxRow && static_cast<int>(m_lines.size()) == last + 1)
+        return;
+    BrowseMaxRow = last;
+    if (!isOpen())
+        return;
+    guarded([&] {
+        if (BrowseRow > BrowseMaxRow) {
+            goTo(BrowseTop);
+            moveTopForward(BrowseRow - BrowseMaxRow);
+            BrowseRow = BrowseMaxRow;
+        }
+        repaint();
+    });
+}
+
+void BrowseList::moveTopForward(int records)
+{
+    for (; records > 0 && goTo(BrowseTop) && step(true); --records)
+        BrowseTop = m_rows.Bookmark();
+}
+
+void BrowseList::nextRow()
+{
+    if (!isOnRecord())
+        return;
+    guarded([&] {
+        goTo(BrowseCurrent);
+        const bool inside = step(true);
+        BrowseCurrent = inside ? m_rows.Bookmark() : noBookmark;
+        if (++BrowseRow <= BrowseMaxRow)
+            return;
+        // The painted rows shift; only the new one is read.
+        BrowseRow = BrowseMaxRow;
+        std::rotate(m_lines.begin(), m_lines.begin() + 1, m_lines.end());
+        m_lines.back() = inside ? lineHere() : BrowseLine{BrowseLine::Kind::EndOfList, {}, {}};
+        BrowseTop = m_lines.front().kind == BrowseLine::Kind::Record ? m_lines.front().bookmark
+                                                                     : noBookmark;
+    });
+}
+
+void BrowseList::previousRow()
+{
+    if (isEmpty())
+        return;
+    guarded([&] {
+        if (!isOnRecord()) {
+            BrowseCurrent = BrowseLast;
+            if (--BrowseRow < 0) {
+                BrowseRow = 0;
+                BrowseTop = BrowseCurrent;
+                repaint();
+            }
+            return;
+        }
+        goTo(BrowseCurrent);
+        if (!step(false)) {
+            BrowseTop = BrowseFirst;
+            return;
+        }
+        BrowseCurrent = m_rows.Bookmark();
+        if (--BrowseRow >= 0)
+            return;
+        BrowseRow = 0;
+        BrowseTop = BrowseCurrent;
+        std::rotate(m_lines.begin(), m_lines.end() - 1, m_lines.end());
+        m_lines.front() = lineHere();
+    });
+}
+
+void BrowseList::home()
+{
+    if (!isEmpty())
+        show(BrowseFirst);
+}
+
+void BrowseList::end()
+{
+    if (!isEmpty())
+        show(BrowseLast);
+}
+
+// How many records lie between row 0 and the one at `bookmark`, which is on the page or below it.
+int BrowseList::countTo(const QString& bookmark)
+{
+    goTo(BrowseTop);
+    int count = 0;
+    while (count < BrowseMaxRow && m_rows.Bookmark() != bookmark && step(true))
+        ++count;
+    return count;
+}
+
+void BrowseList::pageDown()
+{
+    if (!isOnRecord())
+        return;
+    guarded([&] {
+        for (QString* place : {&BrowseCurrent, &BrowseTop}) {
+            goTo(*place);
+            for (int i = 0; i <= BrowseMaxRow && step(true); ++i)
+                *place = m_rows.Bookmark();
+        }
+        BrowseRow = countTo(BrowseCurrent);
+        repaint();
+    });
+}
+
+void BrowseList::pageUp()
+{
+    if (isEmpty())
+        return;
+    guarded([&] {
+        if (!isOnRecord()) {
+            BrowseCurrent = BrowseLast;
+            BrowseRow = std::max(0, BrowseRow - 1);
+            if (BrowseTop == noBookmark)
+                BrowseTop = BrowseLast;
+        }
+        for (QString* place : {&BrowseCurrent, &BrowseTop}) {
+            goTo(*place);
+            for (int i = 0; i <= BrowseMaxRow && step(false); ++i)
+                *place = m_rows.Bookmark();
+        }
+        BrowseRow = countTo(BrowseCurrent);
+        repaint();
+    });
+}
+
+void BrowseList::selectRow(int row)
+{
+    if (isEmpty() || row < 0 || row > BrowseMaxRow)
+        return;
+    const BrowseLine& line = m_lines[static_cast<size_t>(row)];
+    if (line.kind == BrowseLine::Kind::Record)
+        BrowseCurrent = line.bookmark;
+    else if (line.kind == BrowseLine::Kind::EndOfList)
+        BrowseCurrent = noBookmark;
+    else
+        return;
+    BrowseRow = row;
+}
+
+bool BrowseList::goToCurrent()
+{
+    bool there = false;
+    guarded([&] { there = goTo(BrowseCurrent); });
+    // Rebuilt means that it was gone, even if the highlight has found another record.
+    return there;
+}
+
+int BrowseList::makeEntryRow()
+{
+    if (!isOnRecord())
+        return BrowseRow;
+    int records = 0;
+    for (const BrowseLine& line : m_lines)
+        records += line.kind == BrowseLine::Kind::Record ? 1 : 0;
+    if (records <= BrowseMaxRow)
+        return records;
+    guarded([&] {
+        goTo(BrowseTop);
+        if (step(true))
+            BrowseTop = m_rows.Bookmark();
+        goTo(BrowseCurrent);
+        BrowseCurrent = step(true) ? m_rows.Bookmark() : noBookmark;
+        std::rotate(m_lines.begin(), m_lines.begin() + 1, m_lines.end());
+        m_lines.back() = {};
+    });
+    return BrowseMaxRow;
+}

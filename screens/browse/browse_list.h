@@ -1,0 +1,112 @@
+// A page of rows on a table, read through an index and kept within a parent's key, with a highlight
+// that moves. It holds a handful of bookmarks and reads one page at a time, so the table can be of
+// any size, and what other users add is seen at the next rebuild. It has no widgets; a window draws
+// `lines()` after each call and passes its keys in.
+//
+// The highlight stands on a record or on the "End of List" line below the last one; there
+// BrowseCurrent is blank. A record that another user deleted meanwhile leads to a rebuild with the
+// highlight on its neighbour; no call fails because of it. Other failures of the store are thrown.
+#pragma once
+
+#include <QStringList>
+#include <functional>
+
+#include "core/keyed_access.h"
+
+// What is browsed. The parent's keys are the first fields of the index.
+struct BrowseSource
+{
+    QString folder;  // blank: the current directory
+    QString file;
+    QString table;
+    QString index;
+    std::vector<KeyField> parent;
+    // A narrower filter within the parent, where there is one.
+    std::function<bool(storage::Recordset&)> accepts;
+};
+
+struct BrowseLine
+{
+    enum class Kind { Record, EndOfList, ListIsEmpty, Blank };
+
+    Kind kind = Kind::Blank;
+    QString bookmark = noBookmark;
+    QStringList cells;
+};
+
+class BrowseList
+{
+public:
+    // Gives the cells of the record on which the handle stands.
+    using ReadCells = std::function<QStringList(storage::Recordset&)>;
+
+    explicit BrowseList(ReadCells readCells) : m_readCells(std::move(readCells)) {}
+
+    // Opens the file, in a workspace of its own. The list is empty until `fill`.
+    void open(const BrowseSource& source, const QString& workspaceName);
+    void close();
+    bool isOpen() const { return m_rows.isOpen(); }
+
+    // Another parent, and the list from its first record on.
+    void fill(const std::vector<KeyField>& parent);
+    // The table read anew, the record under the highlight kept in view on its row.
+    void rebuild();
+    // Another index; the record under the highlight stays.
+    void useIndex(const QString& index);
+    // `bookmark` to row 0, under the highlight; blank does nothing.
+    void show(const QString& bookmark);
+    // How many rows the page has, at least one; the highlight stays in view.
+    void setRowCount(int rows);
+
+    void nextRow();
+    void previousRow();
+    void pageDown();
+    void pageUp();
+    void home();
+    void end();
+    // The highlight to the row, if there is a record or the end of the list on it.
+    void selectRow(int row);
+
+    // Makes room for a new record's entry: the row on which it lies.
+    int makeEntryRow();
+    // Paints the page anew, after an entry was cancelled.
+    void repaint();
+
+    const std::vector<BrowseLine>& lines() const { return m_lines; }
+    bool isEmpty() const { return BrowseFirst == noBookmark; }
+    bool isOnRecord() const { return BrowseCurrent != noBookmark; }
+
+    // The handle, for whoever writes to the table. Move it freely: each call goes to its own place.
+    storage::Recordset& rows() { return m_rows; }
+    const BrowseSource& source() const { return m_source; }
+    // Goes to the record under the highlight. False, and the list rebuilt, when it is gone.
+    bool goToCurrent();
+
+    QString BrowseFirst = noBookmark;
+    QString BrowseLast = noBookmark;
+    QString BrowseTop = noBookmark;
+    QString BrowseCurrent = noBookmark;
+    int BrowseRow = 0;
+    int BrowseMaxRow = 7;  // index of the last row
+
+private:
+    bool withinFilter();
+    bool step(bool forward);
+    bool goTo(const QString& bookmark);
+    void findEnds();
+    void keepRowInView();
+    void moveTopForward(int records);
+    int countTo(const QString& bookmark);
+    void showEmpty();
+    BrowseLine lineHere();
+    template <class Move>
+    void guarded(Move move);
+
+    ReadCells m_readCells;
+    BrowseSource m_source;
+    storage::Workspace m_workspace;
+    storage::Database m_database;
+    storage::Recordset m_rows;
+    std::vector<BrowseLine> m_lines;
+    bool m_fresh = true;  // nothing was shown yet: the highlight begins at the first record
+};

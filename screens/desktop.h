@@ -1,0 +1,20 @@
+// Where screens open. The main window is the desktop of the program; without one, as in tests, a
+// screen stands as a window of its own.
+#pragma once
+
+#include <QWidget>
+
+class Desktop
+{
+public:
+    virtual ~Desktop() = default;
+
+    // Shows the screen, not modally, and owns it; it is deleted when it closes.
+    virtual void openScreen(QWidget* screen) = 0;
+
+    // Gives the one that was there. The desktop stays the caller's.
+    static Desktop* install(Desktop* desktop);
+};
+
+// Opens the screen on the current desktop.
+void openScreen(QWidget* screen);
