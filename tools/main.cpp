@@ -11,6 +11,7 @@ namespace {
 constexpr Command commands[] = {
     {"create", "make an installation with a first job site", runCreate},
     {"site", "add a job site to an installation", runSite},
+    {"demo", "make an installation and fill it with a contractor's data", runDemo},
     {"schema", "write the page that tells every table", runSchema},
 };
 

@@ -101,7 +101,7 @@ void createFiles(Place place, const QString& storedFolder)
             createFile(file, folder + '/' + toText(file.name));
 }
 
-void createInstallation(const NewInstallation& wanted)
+NewJobSite createInstallation(const NewInstallation& wanted)
 {
     refuseWhereOneExists();
     createFiles(Place::Program, QDir::currentPath());
@@ -119,6 +119,7 @@ void createInstallation(const NewInstallation& wanted)
     wksTEMP.BeginTrans();
     fillMasterDefinitions(zordef);
     wksTEMP.CommitTrans();
+    return site;
 }
 
 NewJobSite addJobSite(const QString& name)

@@ -20,15 +20,15 @@ struct NewInstallation
     QString userName;  // login name of the first user, an administrator
 };
 
-// Fails when the folder holds an installation already.
-void createInstallation(const NewInstallation& wanted);
-
 struct NewJobSite
 {
     QString name;        // in capitals
     QString storedPath;  // its folder, as DBPATHS has it
     qint32 tag;
 };
+
+// Fails when the folder holds an installation already. Gives its first job site.
+NewJobSite createInstallation(const NewInstallation& wanted);
 
 // A further job site with a site number of its own. Fails for a name that is taken.
 NewJobSite addJobSite(const QString& name);
