@@ -3,6 +3,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 
 #include "core/storage/workspace.h"
 
@@ -12,7 +13,22 @@ struct KeyField
     schema::FieldName field;
     storage::Value key;
 };
-using KeyFields = std::initializer_list<KeyField>;
+// Keys in the order of the index: an argument, no more. It holds on to nothing of its own, so that
+// what it is made from, a list in braces or a vector, must live as long.
+class KeyFields
+{
+public:
+    KeyFields() = default;
+    KeyFields(std::initializer_list<KeyField> keys) : m_keys(keys.begin(), keys.size()) {}
+    KeyFields(const std::vector<KeyField>& keys) : m_keys(keys) {}
+
+    size_t size() const { return m_keys.size(); }
+    auto begin() const { return m_keys.begin(); }
+    auto end() const { return m_keys.end(); }
+
+private:
+    std::span<const KeyField> m_keys;
+};
 
 // A bookmark that names no record.
 inline const QString noBookmark = " ";

@@ -7,34 +7,53 @@
 
 namespace storage {
 
+namespace {
+
+// The field's position in the handle's table. One that is not there may just have been made.
+template <class Name>
+int positionOf(RecordsetState& cursor, const Name& name)
+{
+    const int position = cursor.table->fieldPosition(name);
+    if (position >= 0)
+        return position;
+    return cursor.followDefinition() ? cursor.table->fieldPosition(name) : -1;
+}
+
+}  // namespace
+
+const FieldDefinition& Field::definition() const
+{
+    return m_recordset.table->fields[static_cast<size_t>(m_recordset.positionNow(m_place))];
+}
+
 QString Field::Name() const
 {
-    return m_recordset.table->fields[static_cast<size_t>(m_position)].name;
+    return definition().name;
 }
 
 FieldType Field::Type() const
 {
-    return m_recordset.table->fields[static_cast<size_t>(m_position)].type;
+    return definition().type;
 }
 
 int Field::Size() const
 {
-    return m_recordset.table->fields[static_cast<size_t>(m_position)].size;
+    return definition().size;
 }
 
 Value Field::value() const
 {
-    return m_recordset.fieldValue(m_position);
+    return m_recordset.fieldValue(m_place);
 }
 
 void Field::setValue(const Value& value) const
 {
-    m_recordset.setFieldValue(m_position, value);
+    m_recordset.setFieldValue(m_place, value);
 }
 
 RecordsetState& Recordset::state() const
 {
-    if (!m_state)
+    if (!isOpen())
         fail(ErrorNumber::ClosedObject);
     return *m_state;
 }
@@ -69,7 +88,12 @@ QString Recordset::Index() const
 bool Recordset::seekKeys(const char* op, std::span<const Value> keys)
 {
     Q_ASSERT(std::strcmp(op, "=") == 0 || std::strcmp(op, ">=") == 0);
-    return state().seek(op[0] == '=', keys);
+    return state().seek(op[0] == '=', Direction::Forward, keys);
+}
+
+bool Recordset::seekLast(std::span<const Value> keys)
+{
+    return state().seek(true, Direction::Backward, keys);
 }
 
 bool Recordset::NoMatch() const
@@ -116,6 +140,7 @@ int Recordset::RecordCount() const
 {
     RecordsetState& cursor = state();
     cursor.touch();
+    cursor.followDefinition();
     return static_cast<int>(cursor.database->engine->count(*cursor.table));
 }
 
@@ -144,11 +169,11 @@ QString Recordset::LastModified() const
 Field Recordset::Fields(schema::FieldName name) const
 {
     RecordsetState& cursor = state();
-    const int position = cursor.table->fieldPosition(name);
+    const int position = positionOf(cursor, name);
     if (position < 0)
         fail(ErrorNumber::NotInCollection,
              QString::fromLatin1(name.text().data(), static_cast<qsizetype>(name.text().size())));
-    return {cursor, position};
+    return {cursor, cursor.placeOf(position)};
 }
 
 Field Recordset::Fields(int position) const
@@ -156,16 +181,16 @@ Field Recordset::Fields(int position) const
     RecordsetState& cursor = state();
     if (position < 0 || position >= static_cast<int>(cursor.table->fields.size()))
         fail(ErrorNumber::NotInCollection, QString::number(position));
-    return {cursor, position};
+    return {cursor, cursor.placeOf(position)};
 }
 
 Field Recordset::fieldNamed(const QString& name) const
 {
     RecordsetState& cursor = state();
-    const int position = cursor.table->fieldPosition(name);
+    const int position = positionOf(cursor, name);
     if (position < 0)
         fail(ErrorNumber::NotInCollection, name);
-    return {cursor, position};
+    return {cursor, cursor.placeOf(position)};
 }
 
 void Recordset::AddNew()

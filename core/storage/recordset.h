@@ -8,6 +8,10 @@
 // Other users. A move sees what others added, changed or deleted until then. The current record's
 // fields are as they were at the last move; Edit reads them anew.
 //
+// Definitions. Changes of the table's definition are seen at the next operation. An index that goes
+// away while the handle follows it is IndexNotFound, once, and then the order is physical. An edit
+// that was begun goes on with the fields that are left.
+//
 // Bookmarks are texts that name a record for as long as it lives, whatever the index, and are equal
 // for the same record on every handle of the file.
 #pragma once
@@ -28,12 +32,19 @@ struct RecordsetState;
 struct DatabaseState;
 class Recordset;
 
+// A position in a table's definition as it was after so many changes of it.
+struct FieldPlace
+{
+    int position = 0;
+    size_t changes = 0;
+};
+
 // A field of the current record, or of the edit buffer between AddNew or Edit and Update. Lives no
 // longer than the statement it stands in; valid as long as its recordset.
 class Field
 {
 public:
-    Field(RecordsetState& recordset, int position) : m_recordset(recordset), m_position(position) {}
+    Field(RecordsetState& recordset, FieldPlace place) : m_recordset(recordset), m_place(place) {}
 
     QString Name() const;
     FieldType Type() const;
@@ -52,8 +63,10 @@ public:
     Field& operator=(const Field&) = delete;  // ambiguous: copy the value or the reference?
 
 private:
+    const FieldDefinition& definition() const;
+
     RecordsetState& m_recordset;
-    int m_position;
+    FieldPlace m_place;
 };
 
 // A copy is the same handle; a default one is closed.
@@ -79,6 +92,9 @@ public:
         return seekKeys(op, values);
     }
     bool seekKeys(const char* op, std::span<const Value> keys);
+    // To the last record whose first fields along the index equal the keys; all records for none.
+    // Sets NoMatch as Seek does.
+    bool seekLast(std::span<const Value> keys);
     bool NoMatch() const;
 
     // Each gives true when the handle stands on a record then. MoveFirst and MoveLast of an empty

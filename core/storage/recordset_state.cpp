@@ -10,6 +10,8 @@ namespace {
 constexpr int mostRowsAhead = 256;
 constexpr int fieldsBeforeAll = 10;  // a reader of so many fields one by one wants them all
 
+}  // namespace
+
 std::shared_ptr<const ColumnLayout> layoutWith(const ColumnLayout* old, size_t fieldCount,
                                                std::span<const int> more)
 {
@@ -27,14 +29,14 @@ std::shared_ptr<const ColumnLayout> layoutWith(const ColumnLayout* old, size_t f
     return layout;
 }
 
-}  // namespace
-
-RecordsetState::RecordsetState(std::shared_ptr<DatabaseState> owner,
-                               std::shared_ptr<const TableDefinition> definition)
-    : database(std::move(owner)), table(std::move(definition))
+RecordsetState::RecordsetState(std::shared_ptr<DatabaseState> owner, const QString& tableName)
+    : database(std::move(owner))
 {
+    m_definitions = engine().version().definitions;  // first: a change after it is noticed
+    table = engine().table(tableName);
+    if (!table)
+        fail(ErrorNumber::TableNotFound, tableName);
     m_wanted = layoutWith(nullptr, table->fields.size(), {});
-    m_definitions = engine().version().definitions;
 }
 
 void RecordsetState::touch(bool forWriting)
@@ -58,46 +60,28 @@ FetchPlan& RecordsetState::plan()
     return *m_plan;
 }
 
-// The table may have been given other fields or indexes, or dropped, by whoever updates
-// definitions. True if it was: then everything that rests on positions has been worked out anew.
-bool RecordsetState::definitionsChanged(const Version& version)
+void RecordsetState::forgetFields()
 {
-    if (version.definitions == m_definitions)
-        return false;
-    const auto fresh = engine().table(table->name);
-    if (!fresh)
-        fail(ErrorNumber::TableNotFound, table->name);
-    std::vector<int> columns;
-    for (const int column : m_wanted->columns) {
-        const int position = fresh->fieldPosition(table->fields[static_cast<size_t>(column)].name);
-        if (position >= 0)
-            columns.push_back(position);
-    }
-    const QString indexName =
-        index < 0 ? QString() : table->indexes[static_cast<size_t>(index)].name;
-    table = fresh;
-    m_definitions = engine().version().definitions;
-    m_wanted = layoutWith(nullptr, table->fields.size(), columns);
-    m_plan.reset();
-    index = indexName.isEmpty() ? -1 : table->indexPosition(indexName);
-    if (index < 0 && !indexName.isEmpty())
-        fail(ErrorNumber::IndexNotFound, indexName);
-    wantIndexFields();
-    return true;
+    if (m_layout)
+        m_layout = layoutWith(nullptr, table->fields.size(), {});
+    m_inOrder = false;
 }
 
-bool RecordsetState::fetch(Direction direction, const FetchStart& start, int limit)
+// Gives the block that begins at `start()`, which is asked again when the definition has changed
+// meanwhile and with it, perhaps, the fields of the index.
+template <class Start>
+bool RecordsetState::fetch(Direction direction, Start start, int limit)
 {
     for (bool again = false;; again = true) {
         try {
-            engine().fetch(plan(), direction, start, limit, m_spare);
+            const FetchStart from = start();
+            engine().fetch(plan(), direction, from, limit, m_spare);
         } catch (const StorageError& error) {
-            if (again || error.errorNumber() != ErrorNumber::Internal ||
-                !definitionsChanged(engine().version()))
+            if (again || error.errorNumber() != ErrorNumber::Internal || !followDefinition())
                 throw;
             continue;
         }
-        if (again || !definitionsChanged(m_spare.version))
+        if (again || !followDefinition(m_spare.version))
             break;
     }
     std::swap(m_block, m_spare);
@@ -116,12 +100,11 @@ bool RecordsetState::fetchRecord(RecordId wanted)
         try {
             engine().fetchRecord(plan(), wanted, m_spare);
         } catch (const StorageError& error) {
-            if (again || error.errorNumber() != ErrorNumber::Internal ||
-                !definitionsChanged(engine().version()))
+            if (again || error.errorNumber() != ErrorNumber::Internal || !followDefinition())
                 throw;
             continue;
         }
-        if (again || !definitionsChanged(m_spare.version))
+        if (again || !followDefinition(m_spare.version))
             break;
     }
     if (m_spare.rowCount() == 0)
@@ -145,7 +128,8 @@ void RecordsetState::resolve()
 {
     if (place != Place::Unresolved)
         return;
-    if (!fetch(Direction::Forward, {}, 1))
+    if (!fetch(
+            Direction::Forward, [] { return FetchStart(); }, 1))
         place = Place::NoRecords;
     else
         place = Place::OnRecord;
@@ -165,13 +149,10 @@ void RecordsetState::setIndex(const QString& name)
 {
     touch();
     cancelUpdate();
+    followDefinition();
     const int position = name.isEmpty() ? -1 : table->indexPosition(name);
-    if (position < 0 && !name.isEmpty()) {
-        // Perhaps it was made a moment ago.
-        if (!definitionsChanged(engine().version()) || table->indexPosition(name) < 0)
-            fail(ErrorNumber::IndexNotFound, name);
-        return setIndex(name);
-    }
+    if (position < 0 && !name.isEmpty())
+        fail(ErrorNumber::IndexNotFound, name);
     if (position == index)
         return;
     if (place == Place::OnDeleted)
@@ -182,19 +163,23 @@ void RecordsetState::setIndex(const QString& name)
     wantIndexFields();
 }
 
-bool RecordsetState::seek(bool onlyEqual, std::span<const Value> keys)
+bool RecordsetState::seek(bool onlyEqual, Direction direction, std::span<const Value> keys)
 {
     touch();
     cancelUpdate();
-    if (index < 0)
-        fail(ErrorNumber::NoCurrentIndex);
-    if (keys.empty() || keys.size() > m_keyFields.size())
-        fail(ErrorNumber::NotInCollection, QString::number(keys.size()));
     std::vector<Value> fittedKeys;
-    fittedKeys.reserve(keys.size());
-    for (size_t i = 0; i < keys.size(); ++i)
-        fittedKeys.push_back(asKey(table->fields[static_cast<size_t>(m_keyFields[i])], keys[i]));
-    noMatch = !fetch(Direction::Forward, {.key = fittedKeys, .onlyEqual = onlyEqual}, 1);
+    const auto start = [&] {
+        if (index < 0)
+            fail(ErrorNumber::NoCurrentIndex);
+        if (keys.size() > m_keyFields.size() || (keys.empty() && direction == Direction::Forward))
+            fail(ErrorNumber::NotInCollection, QString::number(keys.size()));
+        fittedKeys.clear();
+        for (size_t i = 0; i < keys.size(); ++i)
+            fittedKeys.push_back(
+                asKey(table->fields[static_cast<size_t>(m_keyFields[i])], keys[i]));
+        return FetchStart{.key = fittedKeys, .onlyEqual = onlyEqual};
+    };
+    noMatch = !fetch(direction, start, 1);
     place = noMatch ? Place::Nowhere : Place::OnRecord;
     return !noMatch;
 }
@@ -203,7 +188,8 @@ bool RecordsetState::moveToEnd(Direction from)
 {
     touch();
     cancelUpdate();
-    if (fetch(from, {}, 4)) {
+    if (fetch(
+            from, [] { return FetchStart(); }, 4)) {
         place = Place::OnRecord;
         return true;
     }
@@ -263,10 +249,14 @@ bool RecordsetState::move(Direction direction)
             return true;
         }
     }
-    keepKey();
     const int limit = direction == m_direction ? std::min(m_ahead * 4, mostRowsAhead) : 4;
-    const std::vector<Value> key = m_key;
-    fetch(direction, {.key = key, .id = m_id}, limit);
+    const auto start = [this] {
+        keepKey();
+        if (place == Place::Nowhere)
+            fail(ErrorNumber::NoCurrentRecord);
+        return FetchStart{.key = m_key, .id = m_id};
+    };
+    fetch(direction, start, limit);
     settle(direction);
     return place == Place::OnRecord;
 }
@@ -302,6 +292,8 @@ RecordId RecordsetState::currentId()
 
 void RecordsetState::wantField(int position)
 {
+    if (m_wanted->columnOf[static_cast<size_t>(position)] >= 0)
+        return;
     std::vector<int> more = {position};
     if (++m_extraReads > fieldsBeforeAll) {
         more.clear();
@@ -312,46 +304,45 @@ void RecordsetState::wantField(int position)
     m_plan.reset();
 }
 
-Value RecordsetState::fieldValue(int position)
+Value RecordsetState::fieldValue(FieldPlace field)
 {
     touch();
+    int position = positionNow(field);
     if (mode != Mode::Browsing && m_buffer[static_cast<size_t>(position)])
         return *m_buffer[static_cast<size_t>(position)];
     if (mode == Mode::Adding)
         return {};
     requireRecord();
+    position = positionNow(field);
     if (!isFetched(position)) {
         wantField(position);
         if (!fetchRecord(m_block.id(m_row)))
             fail(ErrorNumber::RecordDeleted);
+        position = positionNow(field);
     }
     return m_block.value(m_row,
                          static_cast<size_t>(m_layout->columnOf[static_cast<size_t>(position)]),
                          table->fields[static_cast<size_t>(position)].type);
 }
 
-void RecordsetState::setFieldValue(int position, const Value& value)
+void RecordsetState::setFieldValue(FieldPlace field, const Value& value)
 {
     touch();
     if (mode == Mode::Browsing)
         fail(ErrorNumber::NoEditBegun);
-    m_buffer[static_cast<size_t>(position)] =
-        fitted(table->fields[static_cast<size_t>(position)], value);
+    const auto position = static_cast<size_t>(positionNow(field));
+    m_buffer[position] = fitted(table->fields[position], value);
 }
 
 void RecordsetState::addNew()
 {
     touch(true);
+    followDefinition();
     resolve();
     mode = Mode::Adding;
-    m_buffer.assign(table->fields.size(), std::nullopt);
-    for (size_t i = 0; i < table->fields.size(); ++i) {
-        const FieldDefinition& field = table->fields[i];
-        if (!field.defaultValue.isNull())
-            m_buffer[i] = fitted(field, field.defaultValue);
-        else if (field.type == FieldType::Boolean)
-            m_buffer[i] = Value(false);
-    }
+    m_buffer.clear();
+    for (const FieldDefinition& field : table->fields)
+        m_buffer.push_back(startValue(field));
 }
 
 void RecordsetState::edit()
@@ -375,6 +366,7 @@ void RecordsetState::update()
     touch(true);
     if (mode == Mode::Browsing)
         fail(ErrorNumber::NoEditBegun);
+    followDefinition();
     if (mode == Mode::Adding)
         insertBuffer();
     else
@@ -412,6 +404,7 @@ void RecordsetState::deleteRecord()
 {
     touch(true);
     cancelUpdate();
+    followDefinition();
     requireRecord();
     keepKey();
     engine().remove(*table, m_id);

@@ -38,9 +38,16 @@ struct DatabaseState
 // Which columns the rows of a block have, and where a field stands among them.
 struct ColumnLayout
 {
-    std::vector<int> columns;      // positions of fields, in order
+    std::vector<int> columns;      // positions of fields, in order; -1: the field is gone
     std::vector<qint16> columnOf;  // by position of the field; -1: not fetched
 };
+
+// The columns of `old`, if any, and those of the fields at `more`.
+std::shared_ptr<const ColumnLayout> layoutWith(const ColumnLayout* old, size_t fieldCount,
+                                               std::span<const int> more);
+
+// What a field is before anyone sets it in a new record; nothing: null.
+std::optional<Value> startValue(const FieldDefinition& field);
 
 struct RecordsetState
 {
@@ -55,18 +62,17 @@ struct RecordsetState
     };
     enum class Mode : quint8 { Browsing, Adding, Editing };
 
-    RecordsetState(std::shared_ptr<DatabaseState> owner,
-                   std::shared_ptr<const TableDefinition> definition);
+    RecordsetState(std::shared_ptr<DatabaseState> owner, const QString& tableName);
 
     void touch(bool forWriting = false);
     void setIndex(const QString& name);
-    bool seek(bool onlyEqual, std::span<const Value> keys);
+    bool seek(bool onlyEqual, Direction direction, std::span<const Value> keys);
     bool moveToEnd(Direction from);
     bool move(Direction direction);
     void goTo(RecordId wanted);
     RecordId currentId();
-    Value fieldValue(int position);
-    void setFieldValue(int position, const Value& value);
+    Value fieldValue(FieldPlace field);
+    void setFieldValue(FieldPlace field, const Value& value);
     void addNew();
     void edit();
     void update();
@@ -74,6 +80,14 @@ struct RecordsetState
     void cancelUpdate();
     void resolve();
     void close();
+    // What was read in a transaction that was rolled back is not shown any more.
+    void forgetFields();
+
+    // Takes up the definition anew if it was changed, by whoever updates definitions; true then.
+    bool followDefinition() { return followDefinition(engine().version()); }
+    FieldPlace placeOf(int position) const { return {position, m_earlier.size()}; }
+    // Where the field stands in the present definition. NotInCollection when it is gone.
+    int positionNow(FieldPlace field) const;
 
     std::shared_ptr<DatabaseState> database;  // null once closed
     std::shared_ptr<const TableDefinition> table;
@@ -85,7 +99,8 @@ struct RecordsetState
 
 private:
     Engine& engine() const { return *database->engine; }
-    bool fetch(Direction direction, const FetchStart& start, int limit);
+    template <class Start>
+    bool fetch(Direction direction, Start start, int limit);
     bool fetchRecord(RecordId wanted);
     void settle(Direction direction);
     bool isFetched(int position) const;
@@ -94,7 +109,8 @@ private:
     void requireRecord();
     void keepKey();
     FetchPlan& plan();
-    bool definitionsChanged(const Version& version);
+    bool followDefinition(const Version& version);
+    std::vector<std::optional<Value>> bufferFor(const TableDefinition& fresh) const;
     void insertBuffer();
     void updateFromBuffer();
 
@@ -102,6 +118,7 @@ private:
     std::shared_ptr<const ColumnLayout> m_wanted;  // for the next fetch
     std::shared_ptr<FetchPlan> m_plan;             // null: made when next needed
     quint64 m_definitions = 0;
+    std::vector<std::shared_ptr<const TableDefinition>> m_earlier;  // those before `table`
 
     // The block in hand; the current record is its row `m_row`.
     RowBlock m_block;

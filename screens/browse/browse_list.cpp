@@ -93,6 +93,12 @@ void BrowseList::fill(const std::vector<KeyField>& parent)
     rebuild();
 }
 
+void BrowseList::clear()
+{
+    BrowseFirst = BrowseLast = noBookmark;
+    showEmpty();
+}
+
 void BrowseList::rebuild()
 {
     m_rows.Close();

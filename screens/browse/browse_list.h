@@ -49,6 +49,8 @@ public:
 
     // Another parent, and the list from its first record on.
     void fill(const std::vector<KeyField>& parent);
+    // No parent, no list.
+    void clear();
     // The table read anew, the record under the highlight kept in view on its row.
     void rebuild();
     // Another index; the record under the highlight stays.
@@ -79,6 +81,7 @@ public:
     // The handle, for whoever writes to the table. Move it freely: each call goes to its own place.
     storage::Recordset& rows() { return m_rows; }
     const BrowseSource& source() const { return m_source; }
+    storage::FieldType typeOf(schema::FieldName field) const { return m_rows[field].Type(); }
     // Goes to the record under the highlight. False, and the list rebuilt, when it is gone.
     bool goToCurrent();
 

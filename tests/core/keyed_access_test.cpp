@@ -88,7 +88,7 @@ TEST_F(KeyedAccess, StandsWithinTheParentAfterADeletion)
         addJob(1, name, name);
     addJob(2, "d", "d");
     OpenTable jobs = site.open("MAIN.mdb", "JOBLIST");
-    const KeyFields company = {{"CONO", 1}};
+    const std::vector<KeyField> company = {{"CONO", 1}};
     jobs.rows.Index("JOBLIST");
     const auto next = [&](const QString& number, int of) {
         const QString bookmark = dnSeek(jobs.rows, "JOBLIST", {{"CONO", of}, {"JOBNO", number}});

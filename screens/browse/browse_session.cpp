@@ -1,0 +1,356 @@
+#include "screens/browse/browse_session.h"
+
+#include "core/storage/storage_error.h"
+#include "core/tags.h"
+#include "core/text.h"
+
+using storage::ErrorNumber;
+using storage::StorageError;
+
+QString Entry::operator[](schema::FieldName field) const
+{
+    for (int i = 0; i < m_session.entryCount(); ++i)
+        if (m_session.entryColumn(i).field.number() == field.number())
+            return m_session.text(i);
+    return {};
+}
+
+bool Entry::isBlank(schema::FieldName field) const
+{
+    return dnIsBlank((*this)[field]);
+}
+bool Entry::isAdding() const
+{
+    return m_session.EditMode == "A";
+}
+const std::vector<KeyField>& Entry::parent() const
+{
+    return m_session.list().source().parent;
+}
+const Session& Entry::session() const
+{
+    return m_session.session();
+}
+
+bool Entry::isTaken(const QString& index, KeyFields keys) const
+{
+    storage::Recordset& rows = m_session.list().rows();
+    std::vector<storage::Value> values;
+    for (const KeyField& key : keys)
+        values.push_back(key.key);
+    rows.Index(index);
+    const bool found = rows.seekKeys("=", values);
+    const QString bookmark = found ? rows.Bookmark() : QString();
+    rows.Index(m_session.list().source().index);
+    return found && (isAdding() || bookmark != m_session.list().BrowseCurrent);
+}
+
+bool Entry::isTakenInParent(const QString& index, KeyFields keys) const
+{
+    std::vector<KeyField> all = parent();
+    all.insert(all.end(), keys.begin(), keys.end());
+    return isTaken(index, all);
+}
+
+EntryCheck required(schema::FieldName field, const QString& text)
+{
+    return [field, text](const Entry& entry) { return entry.isBlank(field) ? text : QString(); };
+}
+
+EntryCheck inOrder(std::vector<EntryCheck> checks)
+{
+    return [checks = std::move(checks)](const Entry& entry) {
+        for (const EntryCheck& check : checks)
+            if (QString refusal = check(entry); !refusal.isEmpty())
+                return refusal;
+        return QString();
+    };
+}
+
+BrowseSession::BrowseSession(BrowseSpec spec, Session session)
+    : m_spec(std::move(spec)),
+      m_session(std::move(session)),
+      m_list([this](storage::Recordset& rows) { return cellsOf(rows); })
+{
+    for (size_t i = 0; i < m_spec.columns.size(); ++i)
+        if (m_spec.columns[i].entry[0] != '\0')
+            m_entryColumns.push_back(i);
+}
+
+QString BrowseSession::folder() const
+{
+    if (m_spec.besideProgram)
+        return {};
+    return m_spec.inUserFolder ? m_session.UserSettingsPath : m_session.JobSitePath;
+}
+
+void BrowseSession::open()
+{
+    m_list.open({.folder = folder(),
+                 .file = m_spec.file,
+                 .table = m_spec.table,
+                 .index = m_spec.index,
+                 .parent = {},
+                 .accepts = {}},
+                "wksVEX");
+    m_hasParent = m_spec.parent.kind == BrowseParent::Kind::None;
+    if (m_hasParent)
+        m_list.fill({});
+}
+
+void BrowseSession::setParent(const std::vector<KeyField>& parent)
+{
+    if (!isBrowsing())
+        return;
+    m_hasParent = !parent.empty();
+    if (m_hasParent)
+        m_list.fill(parent);
+    else
+        m_list.clear();
+}
+
+const BrowseColumn& BrowseSession::entryColumn(int entry) const
+{
+    return m_spec.columns[m_entryColumns[static_cast<size_t>(entry)]];
+}
+
+QStringList BrowseSession::cellsOf(storage::Recordset& rows) const
+{
+    QStringList cells;
+    for (const BrowseColumn& column : m_spec.columns)
+        cells.append(trimmedTextOf(rows[column.field]));
+    return cells;
+}
+
+bool BrowseSession::activeRecordTest(bool needsRecord)
+{
+    if (!m_hasParent) {
+        const bool pair = m_spec.parent.kind == BrowseParent::Kind::CompanyAndJob;
+        const bool branch = m_spec.parent.kind == BrowseParent::Kind::Branch;
+        showCritical("Error", branch ? "Select a Valid Branch Code"
+                              : pair ? "Invalid Company/Job Number Pair Detected."
+                                     : "Invalid Company Number Detected.");
+        return false;
+    }
+    if (!needsRecord || m_list.isOnRecord())
+        return true;
+    showCritical("No Active Record.",
+                 "Highlighted Browse Bar Must be on a Current Record to Continue.");
+    return false;
+}
+
+void BrowseSession::act()
+{
+    m_list.isOnRecord() ? edit() : add();
+}
+
+void BrowseSession::beginEntry(const QString& mode, int row)
+{
+    EditMode = mode;
+    m_entryRow = row;
+    m_fieldToFocus = 0;
+    m_errors.ClearAll();
+}
+
+void BrowseSession::add()
+{
+    if (!isBrowsing() || !activeRecordTest(false))
+        return;
+    m_texts = QStringList(entryCount(), QString());
+    beginEntry("A", m_list.makeEntryRow());
+}
+
+void BrowseSession::edit()
+{
+    if (!isBrowsing() || !activeRecordTest(true) || !m_list.goToCurrent())
+        return;
+    m_texts.clear();
+    for (int i = 0; i < entryCount(); ++i)
+        m_texts.append(trimmedTextOf(m_list.rows()[entryColumn(i).field]));
+    beginEntry("E", m_list.BrowseRow);
+}
+
+void BrowseSession::leaveEntry()
+{
+    EditMode = " ";
+    m_errors.ClearAll();
+    m_fieldToFocus = 0;
+}
+
+void BrowseSession::cancel()
+{
+    leaveEntry();
+    m_list.repaint();
+}
+
+void BrowseSession::leave()
+{
+    if (m_editedExisting && m_spec.reminderAfterEdit)
+        Messages::current().show(*m_spec.reminderAfterEdit);
+    m_editedExisting = false;
+}
+
+void BrowseSession::setText(int entry, const QString& text)
+{
+    m_texts[entry] = entryColumn(entry).upperCase ? text.toUpper() : text;
+}
+
+void BrowseSession::validate(int entry)
+{
+    const EntryCheck& check = entryColumn(entry).check;
+    const QString refusal = check ? check(Entry(*this)) : QString();
+    if (refusal.isEmpty())
+        m_errors.ClearField(entry + 1);
+    else
+        m_errors.AddError(refusal, entry + 1);
+}
+
+// The newer screens: all the errors at once.
+bool BrowseSession::refuseAll()
+{
+    for (int i = 0; i < entryCount(); ++i)
+        validate(i);
+    if (m_errors.ErrorCount() == 0)
+        return false;
+    m_fieldToFocus = m_errors.FirstFieldInError() - 1;
+    showCritical("Cannot Update", "Errors Detected: " + QString::number(m_errors.ErrorCount()) +
+                                      '\n' + m_errors.text());
+    return true;
+}
+
+// The older screens: the first error, and Cancel in its box leaves the entry.
+bool BrowseSession::refuseFirst()
+{
+    for (int i = 0; i < entryCount(); ++i) {
+        const EntryCheck& check = entryColumn(i).check;
+        const QString refusal = check ? check(Entry(*this)) : QString();
+        if (refusal.isEmpty())
+            continue;
+        m_fieldToFocus = i;
+        const Answer answer = Messages::current().show({.kind = MessageKind::Critical,
+                                                        .title = "Cannot Update Record",
+                                                        .text = refusal,
+                                                        .buttons = Buttons::OkCancel});
+        if (answer == Answer::Cancel)
+            cancel();
+        return true;
+    }
+    return false;
+}
+
+bool BrowseSession::update()
+{
+    const bool refused =
+        m_spec.refusals == BrowseSpec::Refusals::ErrorBox ? refuseAll() : refuseFirst();
+    if (refused)
+        return isBrowsing();
+    if (!write())
+        return false;
+    m_list.BrowseCurrent = m_list.rows().LastModified();
+    if (EditMode == "A")
+        m_list.BrowseRow = m_entryRow;
+    else
+        m_editedExisting = true;
+    leaveEntry();
+    m_list.rebuild();
+    return true;
+}
+
+// A number field takes the number that was typed, a text field the text as it stands.
+storage::Value BrowseSession::valueOf(const BrowseColumn& column, const QString& text) const
+{
+    const storage::FieldType type = m_list.typeOf(column.field);
+    if (type == storage::FieldType::Text || type == storage::FieldType::Memo)
+        return text;
+    QString number = text.trimmed();
+    number.remove(',');
+    return number.isEmpty() ? storage::Value(0) : storage::Value(number);
+}
+
+// Goes to the record that is edited. When another user deleted it, what was typed stays and the
+// next Update adds it as a new record.
+bool BrowseSession::goToEdited()
+{
+    try {
+        m_list.rows().Bookmark(m_list.BrowseCurrent);
+        return true;
+    } catch (const StorageError& error) {
+        if (error.errorNumber() != ErrorNumber::RecordDeleted)
+            throw;
+    }
+    showCritical("Cannot Update",
+                 "Another user has deleted this record.\n"
+                 "Update again to add it anew, or Cancel.");
+    EditMode = "A";
+    return false;
+}
+
+bool BrowseSession::write()
+{
+    storage::Recordset& rows = m_list.rows();
+    if (EditMode == "E" && !goToEdited())
+        return false;
+    qint32 tag = 0;
+    if (EditMode == "A" && m_spec.tag.field[0] != '\0')
+        tag = dnGetNewTag(m_spec.tag.besideProgram ? QString(" ") : m_session.JobSitePath,
+                          m_spec.tag.field, m_spec.tag.file, m_spec.tag.table, 0);
+    try {
+        if (EditMode == "E")
+            rows.Edit();
+        else
+            rows.AddNew();
+        for (const KeyField& key : m_list.source().parent)
+            rows[key.field] = key.key;
+        if (tag != 0)
+            rows.fieldNamed(m_spec.tag.field) = tag;
+        for (int i = 0; i < entryCount(); ++i) {
+            m_fieldToFocus = i;
+            rows[entryColumn(i).field] = valueOf(entryColumn(i), m_texts[i]);
+        }
+        m_fieldToFocus = 0;
+        if (m_spec.complete)
+            m_spec.complete(Entry(*this), rows);
+        rows.Update();
+        return true;
+    } catch (const StorageError& error) {
+        rows.CancelUpdate();
+        showCritical("Cannot Update", error.description());
+        return false;
+    }
+}
+
+void BrowseSession::remove()
+{
+    if (!isBrowsing() || !activeRecordTest(true) || !m_list.goToCurrent())
+        return;
+    storage::Recordset& rows = m_list.rows();
+    if (m_spec.deleteTest) {
+        const QString refusal = m_spec.deleteTest(*this, rows);
+        if (!refusal.isEmpty())
+            return showCritical("Cannot Delete", refusal);
+    }
+    const QString next = dnNextBookmark(rows, m_list.BrowseCurrent, m_list.source().parent);
+    rows.Bookmark(m_list.BrowseCurrent);
+    const Answer answer = Messages::current().show({.kind = MessageKind::Question,
+                                                    .title = "Confirm Delete",
+                                                    .text = m_spec.deleteQuestion(rows),
+                                                    .buttons = Buttons::OkCancel,
+                                                    .enterTakes = Answer::Cancel});
+    if (answer != Answer::Ok)
+        return;
+    try {
+        rows.Delete();
+        m_list.BrowseCurrent = next;
+    } catch (const StorageError& error) {
+        // Someone was faster; the list shows it.
+        if (error.errorNumber() != ErrorNumber::RecordDeleted)
+            throw;
+    }
+    m_list.rebuild();
+}
+
+void BrowseSession::search()
+{
+    if (isBrowsing() && m_spec.search && activeRecordTest(false))
+        m_list.show(m_spec.search(*this));
+}
