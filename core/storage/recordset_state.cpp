@@ -10,6 +10,11 @@ namespace {
 constexpr int mostRowsAhead = 256;
 constexpr int fieldsBeforeAll = 10;  // a reader of so many fields one by one wants them all
 
+FetchStart fromTheEnd()
+{
+    return {};
+}
+
 }  // namespace
 
 std::shared_ptr<const ColumnLayout> layoutWith(const ColumnLayout* old, size_t fieldCount,
@@ -128,11 +133,7 @@ void RecordsetState::resolve()
 {
     if (place != Place::Unresolved)
         return;
-    if (!fetch(
-            Direction::Forward, [] { return FetchStart(); }, 1))
-        place = Place::NoRecords;
-    else
-        place = Place::OnRecord;
+    place = fetch(Direction::Forward, fromTheEnd, 1) ? Place::OnRecord : Place::NoRecords;
 }
 
 void RecordsetState::wantIndexFields()
@@ -188,8 +189,7 @@ bool RecordsetState::moveToEnd(Direction from)
 {
     touch();
     cancelUpdate();
-    if (fetch(
-            from, [] { return FetchStart(); }, 4)) {
+    if (fetch(from, fromTheEnd, 4)) {
         place = Place::OnRecord;
         return true;
     }

@@ -64,6 +64,11 @@ void WorkspaceState::rollback()
             engine->rollback();
     begun.clear();
     inTransaction = false;
+    for (const auto& item : databases)
+        if (const auto database = item.lock())
+            for (const auto& recordset : database->recordsets)
+                if (const auto cursor = recordset.lock())
+                    cursor->forgetFields();
 }
 
 void DatabaseState::touch(bool forWriting) const
@@ -100,10 +105,8 @@ QString Database::Name() const
 
 Recordset Database::OpenRecordset(const QString& table) const
 {
-    auto definition = engine().table(table);
-    if (!definition)
-        fail(ErrorNumber::TableNotFound, table);
-    auto recordset = std::make_shared<RecordsetState>(m_state, std::move(definition));
+    engine();
+    auto recordset = std::make_shared<RecordsetState>(m_state, table);
     dropExpired(m_state->recordsets);
     m_state->recordsets.push_back(recordset);
     return Recordset(recordset);
