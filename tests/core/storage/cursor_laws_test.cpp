@@ -60,8 +60,8 @@ const std::vector<FieldDefinition> fields = {
 
 Value CursorLaws::randomValue(const FieldDefinition& field)
 {
-    static const char* const texts[] = {"",  "a", "A",  "a ", " a", "b",  "B ", "Abc",
-                                        "aBC", "abd", "é", "É",  "ä",  "z", "日本", "😀", "ﬃ"};
+    static const char* const texts[] = {"",    "a", "A", "a ", " a", "b",    "B ", "Abc", "aBC",
+                                        "abd", "é", "É", "ä",  "z",  "日本", "😀",  "ﬃ"};
     static const double numbers[] = {-2, -0.1, 0, 0.1, 0.3, 1.0 / 3, 7.0001, 16'777'217, 1e9};
     if (dice(5) == 0)
         return {};
@@ -160,8 +160,7 @@ void CursorLaws::seek(Handle& handle)
 {
     std::vector<Value> keys;
     if (handle.model.index >= 0) {
-        const QStringList& names =
-            m_model.definition.indexes[size_t(handle.model.index)].fields;
+        const QStringList& names = m_model.definition.indexes[size_t(handle.model.index)].fields;
         const int count = 1 + dice(int(names.size()));
         for (int i = 0; i < count; ++i)
             keys.push_back(randomValue(fields[size_t(m_model.definition.fieldPosition(names[i]))]));
