@@ -1,0 +1,6 @@
+// General ledger codes of a company.
+#pragma once
+
+#include "screens/browse/browse_spec.h"
+
+BrowseSpec frmVEXGLC01();
