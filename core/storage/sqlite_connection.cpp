@@ -283,6 +283,10 @@ void SqliteConnection::failWith(int code) const
 
 void SqliteConnection::copyTo(const QString& path)
 {
+    // The library refuses to copy through a connection that is writing. Another one reads what was
+    // committed before, and a transaction of ours keeps it from changing meanwhile.
+    if (inTransaction())
+        return SqliteConnection(m_path, Mode::Existing).copyTo(path);
     if (QFileInfo::exists(path))
         fail(ErrorNumber::DatabaseExists, path);
     sqlite3* target = nullptr;
