@@ -33,6 +33,18 @@ FileIdentity identityOf(const QString& path)
     return {information.st_dev, information.st_ino};
 }
 
+std::shared_ptr<Engine> makeEngine(const QString& path, SqliteConnection::Mode mode)
+{
+    const bool isNew = mode == SqliteConnection::Mode::Create && identityOf(path) == FileIdentity{};
+    try {
+        return std::make_shared<SqliteEngine>(path, mode);
+    } catch (...) {
+        if (isNew)
+            removeDatabaseFiles(path);
+        throw;
+    }
+}
+
 class EnginePool
 {
 public:
@@ -44,7 +56,7 @@ public:
         if (known != m_entries.end() && mode == SqliteConnection::Mode::Existing &&
             known->identity == identity && identity != FileIdentity{})
             return handOut(*known);
-        Entry entry{std::make_shared<SqliteEngine>(path, mode), {}, identityOf(path), {}};
+        Entry entry{makeEngine(path, mode), {}, identityOf(path), {}};
         return handOut(*m_entries.insert(path, std::move(entry)));
     }
 

@@ -3,6 +3,7 @@
 #include <sqlite3.h>
 
 #include <QElapsedTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <utility>
 
@@ -55,6 +56,12 @@ ErrorNumber errorNumberOf(int code)
 }
 
 }  // namespace
+
+void removeDatabaseFiles(const QString& path)
+{
+    for (const char* suffix : {"", "-journal", "-turn"})
+        QFile::remove(path + suffix);
+}
 
 int lockWaitLimit()
 {
@@ -170,8 +177,8 @@ SqliteConnection::SqliteConnection(const QString& path, Mode mode) : m_path(path
 {
     if (mode == Mode::Existing)
         refuseWhatIsNotThere();
-    else if (QFileInfo::exists(path))
-        fail(ErrorNumber::DatabaseExists, path);
+    else
+        refuseWhatCannotBeMade();
     try {
         open(mode);
         prepareForUse(mode);
@@ -190,13 +197,27 @@ SqliteConnection::~SqliteConnection()
 void SqliteConnection::refuseWhatIsNotThere() const
 {
     const QFileInfo file(m_path);
-    if (!file.exists())
-        fail(QFileInfo::exists(file.path()) ? ErrorNumber::FileNotFound : ErrorNumber::PathNotValid,
-             m_path);
+    const QFileInfo folder(file.path());
+    if (!folder.exists())
+        fail(ErrorNumber::PathNotValid, m_path);
+    if (!file.exists())  // or it is not for us to know
+        fail(folder.isExecutable() ? ErrorNumber::FileNotFound : ErrorNumber::CannotOpen, m_path);
     if (!file.isFile())
         fail(ErrorNumber::PathNotValid, m_path);
     if (file.size() == 0)  // the library would take an empty file for a new database
         fail(ErrorNumber::UnknownFormat, m_path);
+}
+
+void SqliteConnection::refuseWhatCannotBeMade() const
+{
+    const QFileInfo file(m_path);
+    if (file.exists())
+        fail(ErrorNumber::DatabaseExists, m_path);
+    const QFileInfo folder(file.path());
+    if (!folder.isDir())
+        fail(ErrorNumber::PathNotValid, m_path);
+    if (!folder.isWritable())
+        fail(ErrorNumber::ReadOnly, m_path);
 }
 
 void SqliteConnection::open(Mode mode)
@@ -312,8 +333,10 @@ void SqliteConnection::copyTo(const QString& path)
     }
     const int finished = sqlite3_backup_finish(backup);
     closeTarget();
-    if (code != SQLITE_DONE || finished != SQLITE_OK)
+    if (code != SQLITE_DONE || finished != SQLITE_OK) {
+        removeDatabaseFiles(path);
         fail(errorNumberOf(code != SQLITE_DONE ? code : finished), path);
+    }
 }
 
 }  // namespace storage

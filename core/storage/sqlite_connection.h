@@ -65,6 +65,7 @@ public:
     enum class Mode { Existing, Create };
 
     // Fails with FileNotFound, PathNotValid, CannotOpen, UnknownFormat, DatabaseExists, ReadOnly.
+    // A file whose making fails may be left half made.
     SqliteConnection(const QString& path, Mode mode);
     ~SqliteConnection();
     SqliteConnection(const SqliteConnection&) = delete;
@@ -103,6 +104,7 @@ public:
 
 private:
     void refuseWhatIsNotThere() const;
+    void refuseWhatCannotBeMade() const;
     void open(Mode mode);
     void prepareForUse(Mode mode);
 
@@ -110,6 +112,9 @@ private:
     sqlite3* m_handle = nullptr;
     sqlite3_file* m_file = nullptr;
 };
+
+// What is left of a file that could not be made whole.
+void removeDatabaseFiles(const QString& path);
 
 // How long a writer waits for its turn and a reader for a commit to end, in milliseconds, before
 // the Locked error. Tests shorten it.

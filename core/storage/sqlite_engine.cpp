@@ -91,7 +91,19 @@ SqliteEngine::SqliteEngine(const QString& path, SqliteConnection::Mode mode)
     if (mode == SqliteConnection::Mode::Create)
         changeDefinitions([this] { m_catalogue.createTables(); });
     m_catalogueCookie = m_connection.counters().definitions;
-    m_catalogue.tableNames();  // a file without a catalogue is refused here, not at its first use
+    refuseWithoutCatalogue();
+}
+
+// Here, not at the first use of the file.
+void SqliteEngine::refuseWithoutCatalogue()
+{
+    try {
+        m_catalogue.tableNames();
+    } catch (const StorageError& error) {
+        if (error.errorNumber() == ErrorNumber::Internal)
+            fail(ErrorNumber::UnknownFormat, path());
+        throw;
+    }
 }
 
 SqliteEngine::~SqliteEngine()
@@ -204,9 +216,18 @@ void SqliteEngine::refuseReadOnly() const
         fail(ErrorNumber::ReadOnly, path());
 }
 
+// A full disk makes the library roll back the whole transaction. What came after it would be
+// written by itself.
+void SqliteEngine::refuseBrokenTransaction() const
+{
+    if (m_inTransaction && !m_connection.inTransaction())
+        fail(ErrorNumber::TransactionMismatch, path());
+}
+
 int SqliteEngine::write(SqliteStatement& writing)
 {
     refuseReadOnly();
+    refuseBrokenTransaction();
     endLease();
     if (!m_inTransaction)
         m_turn.take(lockWaitLimit());
@@ -218,6 +239,8 @@ int SqliteEngine::write(SqliteStatement& writing)
         writing.reset();
         if (!m_inTransaction)
             m_turn.giveBack();
+        else if (!m_connection.inTransaction())
+            ++m_rollbacks;
         throw;
     }
     if (!m_inTransaction)
@@ -284,6 +307,7 @@ void SqliteEngine::begin()
 void SqliteEngine::commit()
 {
     try {
+        refuseBrokenTransaction();
         m_connection.execute("COMMIT");
     } catch (...) {
         rollback();
@@ -310,6 +334,7 @@ template <class Change>
 void SqliteEngine::changeDefinitions(Change change)
 {
     const bool ownTransaction = !m_inTransaction;
+    refuseBrokenTransaction();
     if (ownTransaction)
         begin();
     // Statements that still know the old table would keep it from being changed.

@@ -63,8 +63,10 @@ private:
     class ReadScope;
 
     SqliteStatement& statement(const QByteArray& sql);
+    void refuseWithoutCatalogue();
     void refreshCatalogue();
     void refuseReadOnly() const;
+    void refuseBrokenTransaction() const;
     // Runs one writing statement, in its turn; gives the number of rows written.
     int write(SqliteStatement& statement);
     template <class Change>
