@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 namespace storage {
 namespace {
@@ -12,6 +13,17 @@ constexpr int patienceMilliseconds = 40'000;
 QStringList linesOf(const QByteArray& output)
 {
     return QString::fromUtf8(output).split('\n', Qt::SkipEmptyParts);
+}
+
+// Runs the event loop meanwhile, so that this process holds no locks while it waits.
+template <class Condition>
+bool waitUntil(Condition condition)
+{
+    QElapsedTimer waited;
+    waited.start();
+    while (!condition() && waited.elapsed() < patienceMilliseconds)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    return condition();
 }
 
 }  // namespace
@@ -36,19 +48,17 @@ void OtherProcess::say(const QString& line)
 
 QString OtherProcess::hear()
 {
-    while (!m_process.canReadLine())
-        if (!m_process.waitForReadyRead(patienceMilliseconds)) {
-            ADD_FAILURE() << "the other process says nothing";
-            return {};
-        }
+    if (!waitUntil([this] { return m_process.canReadLine(); })) {
+        ADD_FAILURE() << "the other process says nothing";
+        return {};
+    }
     return QString::fromUtf8(m_process.readLine()).trimmed();
 }
 
 QStringList OtherProcess::finish()
 {
     m_process.closeWriteChannel();
-    EXPECT_TRUE(m_process.state() == QProcess::NotRunning ||
-                m_process.waitForFinished(patienceMilliseconds));
+    EXPECT_TRUE(waitUntil([this] { return m_process.state() == QProcess::NotRunning; }));
     EXPECT_EQ(QProcess::NormalExit, m_process.exitStatus());
     EXPECT_EQ(0, m_process.exitCode());
     return linesOf(m_process.readAllStandardOutput());
