@@ -2,6 +2,33 @@
 
 #include <QMdiSubWindow>
 
+namespace {
+
+// Takes the frame of a screen away when the screen has closed itself.
+class FrameCloser : public QObject
+{
+public:
+    explicit FrameCloser(QWidget* screen) : QObject(screen) { screen->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        // Whether the screen agrees is known only after it has handled the event.
+        if (event->type() == QEvent::Close)
+            QMetaObject::invokeMethod(this, &FrameCloser::closeFrame, Qt::QueuedConnection);
+        return false;
+    }
+
+private:
+    void closeFrame() const
+    {
+        const auto* screen = static_cast<QWidget*>(parent());
+        if (screen->isHidden() && screen->parentWidget())
+            screen->parentWidget()->deleteLater();
+    }
+};
+
+}  // namespace
+
 DesktopArea::DesktopArea(const QString& programName) : m_programName(programName)
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -19,33 +46,15 @@ void DesktopArea::addScreen(QWidget* screen, bool centred)
 {
     QMdiSubWindow* window = addSubWindow(screen);
     window->setAttribute(Qt::WA_DeleteOnClose);
-    // A screen that closes by itself takes its frame with it.
     if (auto* dialog = qobject_cast<QDialog*>(screen))
         connect(dialog, &QDialog::finished, window, &QObject::deleteLater);
     else
-        screen->installEventFilter(this);
+        new FrameCloser(screen);
     window->resize(window->sizeHint().expandedTo(screen->size()).boundedTo(viewport()->size()));
     if (centred)
         window->move((viewport()->width() - window->width()) / 2,
                      (viewport()->height() - window->height()) / 2);
     window->show();
-}
-
-bool DesktopArea::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::Close) {
-        auto* screen = qobject_cast<QWidget*>(watched);
-        // Whether the screen agrees is known only after it has handled the event.
-        if (screen && screen->parentWidget())
-            QMetaObject::invokeMethod(
-                screen,
-                [screen] {
-                    if (screen->isHidden() && screen->parentWidget())
-                        screen->parentWidget()->deleteLater();
-                },
-                Qt::QueuedConnection);
-    }
-    return QMdiArea::eventFilter(watched, event);
 }
 
 bool DesktopArea::bringToFront(const QString& screenName)

@@ -75,10 +75,12 @@ void frmVEXMAIN::buildStatusBar()
     m_user->setObjectName("lblUserName");
     m_site = new QLabel;
     m_site->setObjectName("lblJobSiteName");
+    auto* keys = new QLabel("Alt+letter: menu    Ctrl+Tab: next screen    Ctrl+F4: close screen");
+    for (QLabel* label : {m_user, m_site, keys})
+        label->setContentsMargins(8, 2, 8, 2);
     statusBar()->addWidget(m_user);
     statusBar()->addWidget(m_site, 1);
-    statusBar()->addPermanentWidget(
-        new QLabel("Alt+letter: menu    Ctrl+Tab: next screen    Ctrl+F4: close screen"));
+    statusBar()->addPermanentWidget(keys);
 }
 
 void frmVEXMAIN::showSession()

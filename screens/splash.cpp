@@ -5,7 +5,12 @@ frmVEXSplash::frmVEXSplash(const QString& moduleName, const QString& versionText
 {
     setObjectName("frmVEXSplash");
     setWindowTitle(moduleName);
-    auto* layout = new QVBoxLayout(this);
+    auto* frame = new QFrame;
+    frame->setFrameShape(QFrame::StyledPanel);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(frame);
+    auto* layout = new QVBoxLayout(frame);
     layout->setContentsMargins(48, 48, 48, 40);
     layout->setSpacing(8);
     const struct

@@ -8,6 +8,7 @@
 #include <QList>
 
 #include "core/messages.h"
+#include "tests/support/printing.h"
 
 class ScriptedMessages : public Messages
 {

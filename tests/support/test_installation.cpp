@@ -33,10 +33,17 @@ const char* folderOf(schema::Place place)
     return "site";
 }
 
+// In memory where the machine has such a place: the tests commit often.
+QString folderTemplate()
+{
+    return QFileInfo("/dev/shm").isWritable() ? "/dev/shm/vexley-XXXXXX"
+                                              : QDir::tempPath() + "/vexley-XXXXXX";
+}
+
 // Empty files of the whole schema, made once a process and copied for each installation.
 const QString& emptyFiles()
 {
-    static const QTemporaryDir folder;
+    static const QTemporaryDir folder(folderTemplate());
     static const QString path = [] {
         for (const auto place :
              {schema::Place::Program, schema::Place::JobSite, schema::Place::Network,
@@ -49,7 +56,8 @@ const QString& emptyFiles()
 
 }  // namespace
 
-TestInstallation::TestInstallation() : m_directoryBefore(QDir::currentPath())
+TestInstallation::TestInstallation()
+    : m_folder(folderTemplate()), m_directoryBefore(QDir::currentPath())
 {
     for (const char* folder : {"program", "site", "network", "user"})
         makeFolder(folder);

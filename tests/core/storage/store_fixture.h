@@ -10,11 +10,7 @@
 #include "core/storage/engine.h"
 #include "core/storage/storage_error.h"
 #include "core/storage/workspace.h"
-
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
+#include "tests/support/printing.h"
 
 namespace storage {
 
