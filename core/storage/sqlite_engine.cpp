@@ -87,7 +87,7 @@ SqliteEngine::SqliteEngine(const QString& path, SqliteConnection::Mode mode)
     // With the head of the file mapped, a look at its counters costs nanoseconds, not a system
     // call. No more of it: a file that someone cuts short under a mapping would end the process.
     if (!m_onShare)
-        m_connection.execute("PRAGMA mmap_size = 65536");
+        m_connection.execute("PRAGMA mmap_size = 4096");
     if (mode == SqliteConnection::Mode::Create)
         changeDefinitions([this] { m_catalogue.createTables(); });
     m_catalogueCookie = m_connection.counters().definitions;

@@ -153,11 +153,18 @@ TEST_F(Concurrency, AWalkThatWasLockedOutLeavesNoTransactionBehind)
     walkThrough("N", Direction::Forward);
 }
 
-TEST_F(Concurrency, AFileThatIsCutToNothingUnderAHandleIsAnErrorNotTheEnd)
+// As by an administrator who copies another file over it. What a handle has read it may still give.
+TEST_F(Concurrency, AFileThatIsCutShortUnderAHandleIsAnErrorNotTheEndOfTheProgram)
 {
     rs.MoveFirst();
-    QFile::resize(path, 0);
-    EXPECT_NE(0, errorOf([&] { walk(rs, "K"); }));
+    for (const int size : {20'000, 5000, 100}) {
+        QFile::resize(path, size);
+        qsizetype met = 0;
+        const int error = errorOf([&] { met = walk(rs, "N").size(); });
+        EXPECT_TRUE(error == 3049 || error == 3343 || (error == 0 && met == steadyRows))
+            << error << " " << met;
+        EXPECT_NE(0, errorOf([&] { openOnOtherConnection().RecordCount(); }));
+    }
 }
 
 }  // namespace

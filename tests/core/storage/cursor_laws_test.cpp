@@ -167,12 +167,14 @@ void CursorLaws::seek(Handle& handle)
     } else {
         keys.push_back(1);
     }
-    const bool onlyEqual = dice(2) == 0;
-    trace += onlyEqual ? "seek =" : "seek >=";
+    const bool last = dice(3) == 0;
+    const bool onlyEqual = last || dice(2) == 0;
+    trace += last ? "seek last" : onlyEqual ? "seek =" : "seek >=";
     for (const Value& key : keys)
         trace += " " + testing::PrintToString(key);
-    expectError(handle.model.seek(onlyEqual, keys),
-                [&] { handle.rs.seekKeys(onlyEqual ? "=" : ">=", keys); });
+    expectError(handle.model.seek(onlyEqual, last ? -1 : 1, keys), [&] {
+        last ? handle.rs.seekLast(keys) : handle.rs.seekKeys(onlyEqual ? "=" : ">=", keys);
+    });
 }
 
 void CursorLaws::move(Handle& handle)

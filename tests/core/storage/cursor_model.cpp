@@ -92,7 +92,7 @@ int CursorModel::setIndex(int wanted)
     return 0;
 }
 
-int CursorModel::seek(bool onlyEqual, const std::vector<Value>& keys)
+int CursorModel::seek(bool onlyEqual, int step, const std::vector<Value>& keys)
 {
     if (index < 0)
         return 3019;
@@ -110,7 +110,7 @@ int CursorModel::seek(bool onlyEqual, const std::vector<Value>& keys)
         const int result = compareKeys(row);
         if (result < 0 || (onlyEqual && result > 0))
             continue;
-        if (!best || table->compare(index, row, candidate, table->rows[*best], *best) < 0)
+        if (!best || table->compare(index, row, candidate, table->rows[*best], *best) * step < 0)
             best = candidate;
     }
     noMatch = !best;

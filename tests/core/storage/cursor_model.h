@@ -36,7 +36,8 @@ struct CursorModel
 
     // Each gives the error's number, 0 for none.
     int setIndex(int wanted);
-    int seek(bool onlyEqual, const std::vector<Value>& keys);
+    // The first match, or with a step of -1 the last.
+    int seek(bool onlyEqual, int step, const std::vector<Value>& keys);
     int moveToEnd(int step);
     int move(int step);
     int goTo(RecordId wanted);

@@ -66,4 +66,11 @@ TEST_F(FilePaths, JoiningKeepsTheFoldersOwnSeparator)
 }
 
 }  // namespace
+// Every absolute path that an entry field put in capitals begins there.
+TEST_F(FilePaths, FoldersOfTheRootAreFoundWithoutRegardToCase)
+{
+    EXPECT_EQ(nativePath("/TMP/" + QString(40, 'x')), "/tmp/" + QString(40, 'x'));
+    EXPECT_EQ(nativePath("/TMP"), "/tmp");
+}
+
 }  // namespace storage
