@@ -7,14 +7,15 @@
 namespace storage {
 namespace {
 
-// The entry of `folder` that `part` means.
+// The entry of `folder` that `part` means; a blank folder is the root.
 QString matchingEntry(const QString& folder, const QString& part)
 {
     const QString exact = folder + '/' + part;
     if (QFileInfo::exists(exact))
         return exact;
     const QStringList entries =
-        QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
+        QDir(folder + '/')
+            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     for (const QString& entry : entries)
         if (entry.compare(part, Qt::CaseInsensitive) == 0)
             return folder + '/' + entry;
