@@ -50,7 +50,10 @@ void DesktopArea::addScreen(QWidget* screen, bool centred)
         connect(dialog, &QDialog::finished, window, &QObject::deleteLater);
     else
         new FrameCloser(screen);
-    window->resize(window->sizeHint().expandedTo(screen->size()).boundedTo(viewport()->size()));
+    QSize size = window->sizeHint();
+    if (screen->testAttribute(Qt::WA_Resized))  // a size of the screen's own choice
+        size = size.expandedTo(screen->size());
+    window->resize(size.boundedTo(viewport()->size()));
     if (centred)
         window->move((viewport()->width() - window->width()) / 2,
                      (viewport()->height() - window->height()) / 2);

@@ -27,6 +27,29 @@ public:
     }
 };
 
+// A letter on a coloured tile, drawn in the sizes that title bars and task lists ask for.
+QIcon programIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 24, 32, 48, 64, 128}) {
+        QPixmap tile(size, size);
+        tile.fill(Qt::transparent);
+        QPainter painter(&tile);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0x2f, 0x5d, 0x8a));
+        painter.drawRoundedRect(tile.rect(), size / 6.0, size / 6.0);
+        QFont font = painter.font();
+        font.setPixelSize(size * 3 / 4);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.drawText(tile.rect(), Qt::AlignCenter, "V");
+        icon.addPixmap(tile);
+    }
+    return icon;
+}
+
 // The program runs in the folder that holds the locator files: the current one, or where the
 // program itself lies for those who start it from elsewhere.
 void findProgramFolder()
@@ -45,6 +68,7 @@ int main(int argc, char** argv)
     // The splash and boxes come and go before the main window is there.
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setStyle("Fusion");
+    QApplication::setWindowIcon(programIcon());
     findProgramFolder();
 
     QtMessages messages;

@@ -1,6 +1,7 @@
 #include "app/main_window.h"
 
 #include "app/desktop_area.h"
+#include "app/screen_keys.h"
 #include "app/screen_table.h"
 #include "app/window_place.h"
 #include "core/messages.h"
@@ -28,6 +29,7 @@ frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
     setCentralWidget(m_area);
     buildMenus();
     buildStatusBar();
+    new ScreenKeys(m_area);
     connect(&m_timer, &QTimer::timeout, this, [this] { m_watch.tick(); });
     installRefusalScreen([](const QString& userName, const QString& process) {
         frmDNNETNoAccess(userName, process)->exec();

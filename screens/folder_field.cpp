@@ -8,7 +8,8 @@ FolderField::FolderField(const QString& name)
 {
     m_shown->setObjectName("lbl" + name);
     m_shown->setTextFormat(Qt::PlainText);
-    m_shown->setMinimumWidth(360);
+    // As high as the entry, so that nothing moves when the edit begins.
+    m_shown->setMinimumSize(360, qMax(m_entry->sizeHint().height(), m_search->sizeHint().height()));
     m_entry->setObjectName("txt" + name);
     m_entry->setMaxLength(255);
     m_entry->setMinimumWidth(260);

@@ -35,6 +35,8 @@ QLabel* SmallDialog::addHeading(const QString& text)
     QFont font = label->font();
     font.setBold(true);
     label->setFont(font);
+    if (m_rows->rowCount() > 1)
+        label->setContentsMargins(0, 8, 0, 0);
     return label;
 }
 

@@ -177,6 +177,28 @@ TEST_F(MainWindowTest, SettingsOpenOnceCentredAndCloseWithTheirFrame)
     EXPECT_TRUE(desktop().subWindowList().isEmpty());
 }
 
+TEST_F(MainWindowTest, TheKeysOfTheScreenInFrontGoBeforeThoseOfTheMenu)
+{
+    load();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    entry("miNETSET").trigger();
+    QMdiSubWindow* frame = frameOf("frmNETSET");
+    ASSERT_TRUE(frame);
+    EXPECT_LT(frame->height(), 300) << "as small as its content";
+    const auto pressAlt = [&](Qt::Key key) {
+        QTest::keyClick(frame->focusWidget() ? frame->focusWidget() : frame, key, Qt::AltModifier);
+    };
+    pressAlt(Qt::Key_C);
+    EXPECT_EQ(control<QPushButton>(*frame, "cmdAdd").text(), "&Cancel");
+    pressAlt(Qt::Key_C);
+    EXPECT_EQ(control<QPushButton>(*frame, "cmdAdd").text(), "&Add this User to List");
+    EXPECT_FALSE(QApplication::activePopupWidget());
+
+    pressAlt(Qt::Key_F);
+    EXPECT_EQ(QApplication::activePopupWidget(), &control<QMenu>(window, "miFile"));
+    control<QMenu>(window, "miFile").close();
+}
+
 TEST_F(MainWindowTest, ScreensThatCloseThemselvesTakeTheirFrameAlong)
 {
     load();
