@@ -12,6 +12,9 @@ constexpr Command commands[] = {
     {"create", "make an installation with a first job site", runCreate},
     {"site", "add a job site to an installation", runSite},
     {"demo", "make an installation and fill it with a contractor's data", runDemo},
+    {"check", "check the files of an installation for damage and against the schema", runCheck},
+    {"backup", "pack a consistent copy of an installation or of a job site", runBackup},
+    {"restore", "unpack a backup and check what it holds", runRestore},
     {"schema", "write the page that tells every table", runSchema},
 };
 

@@ -49,7 +49,8 @@ void Fulfilment::follow(Order& order)
         tellStatus(order, deliveries);
 }
 
-// One to three deliveries; most lines come whole in one of them, some in two, a few never.
+// One to three deliveries; most lines come whole in one of them, some in two, a few in part or
+// never.
 std::vector<Fulfilment::Delivery> Fulfilment::planDeliveries(const Order& order)
 {
     std::vector<Delivery> deliveries(
@@ -64,12 +65,12 @@ std::vector<Fulfilment::Delivery> Fulfilment::planDeliveries(const Order& order)
         if (line->quantity == 0 || m_random.chance(3))
             continue;
         const int first = m_random.below(static_cast<int>(deliveries.size()));
-        const bool split = first + 1 < static_cast<int>(deliveries.size()) && line->quantity >= 2 &&
-                           m_random.chance(40);
+        const bool last = first + 1 == static_cast<int>(deliveries.size());
+        const bool split = line->quantity >= 2 && m_random.chance(last ? 6 : 40);
         const double now = split ? std::floor(line->quantity / 2) : line->quantity;
         const double rest = line->quantity - now;
         deliveries[static_cast<size_t>(first)].parts.push_back({line, now, rest});
-        if (split)
+        if (split && !last)
             deliveries[static_cast<size_t>(first) + 1].parts.push_back({line, rest, 0});
     }
     std::erase_if(deliveries, [](const Delivery& delivery) { return delivery.parts.empty(); });

@@ -137,7 +137,7 @@ void addManufacturers(World& world)
             const Address works = address(random);
             row["MFGTAG"] = world.tags.ofSite("MFGTAG");
             row["MFGNO"] = QString("M%1").arg(i + 1, 4, 10, QChar('0'));
-            row["MFGNAME"] = firmName(random, static_cast<Trade>(i % tradeCount), taken) + " Mfg";
+            row["MFGNAME"] = firmName(random, static_cast<Trade>(i % tradeCount), taken);
             writeAddress(row, works);
             row["PHONE"] = works.phone;
             row["CONTACT"] = personName(random);
