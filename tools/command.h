@@ -63,6 +63,9 @@ private:
 void say(const QString& line);
 void complain(const QString& line);
 
+// The login name of whoever runs the command, by which the program will know them.
+QString ownLoginName();
+
 // Makes the installation's folder the current one, as it is for the program, so that the relative
 // paths in its files mean the same. Fails when there is no such folder.
 void enterInstallation(const QString& folder);

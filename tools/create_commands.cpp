@@ -5,15 +5,11 @@
 #include "tools/command.h"
 #include "tools/new_files.h"
 
-namespace {
-
-QString loginName()
+QString ownLoginName()
 {
     const QString name = System::current().loginName();
     return name.isEmpty() ? "Guest" : name;
 }
-
-}  // namespace
 
 int runCreate(const QStringList& arguments)
 {
@@ -23,7 +19,7 @@ int runCreate(const QStringList& arguments)
         "first user and of a first job site. An installation that is there is left alone.",
         {"FOLDER"},
         {{"site", "Name of the first job site.", "NAME", "MAIN OFFICE"},
-         {"user", "Login name of the first user, an administrator.", "LOGIN", loginName()}});
+         {"user", "Login name of the first user, an administrator.", "LOGIN", ownLoginName()}});
     const QString folder = QDir(given[0]).absolutePath();
     if (!QDir().mkpath(folder))
         throw CommandFailure("Cannot make the folder " + folder + '.');

@@ -2,7 +2,6 @@
 #include <QDir>
 #include <QElapsedTimer>
 
-#include "core/system.h"
 #include "tools/command.h"
 #include "tools/demo/demo.h"
 #include "tools/new_files.h"
@@ -24,7 +23,7 @@ int runDemo(const QStringList& arguments)
         {{"scale", "1 makes some 5,000 line items, 100 half a million.", "N", "1"},
          {"seed", "Another number, other data.", "S", "1"},
          {"site", "Name of the job site.", "NAME", "DEMO CONTRACTOR"},
-         {"user", "Login name of the first user.", "LOGIN", System::current().loginName()}});
+         {"user", "Login name of the first user.", "LOGIN", ownLoginName()}});
     const auto scale = static_cast<int>(given.number("scale", 1, largestScale));
     const auto seed = static_cast<quint64>(given.number("seed", 0, INT_MAX));
     const QString folder = QDir(given[0]).absolutePath();

@@ -43,6 +43,23 @@ struct Line
     QString materialCode;
 };
 
+// Makes lines of what a vendor sells, for a job; `random` is the caller's and goes on.
+class LineMaker
+{
+public:
+    LineMaker(World& world, Random& random) : m_world(world), m_random(random) {}
+    std::vector<Line> make(const Header& header, int count);
+
+private:
+    Line makeLine(const Header& header);
+    void chooseMaterial(Line& line, const Header& header);
+    void chooseService(Line& line);
+    void chooseCodes(Line& line, const Header& header);
+
+    World& m_world;
+    Random& m_random;
+};
+
 struct Order
 {
     qint32 tag = 0;

@@ -115,7 +115,7 @@ bool Fulfilment::invoice(const Order& order, const Delivery& delivery)
     const QString checkNo = paid ? QString::number(++m_checkNo) : QString();
     for (const Part& part : delivery.parts)
         pay(order, part, delivery, invoiceNo, invoiceDay, paid ? checkDay : -1, checkNo);
-    if (m_world.jobs[static_cast<size_t>(order.header->job)].company == 2)
+    if (m_world.jobOf(order.header->job).company == 2)
         registerInvoice(order, delivery, invoiceNo, invoiceDay);
     return paid;
 }
@@ -123,7 +123,7 @@ bool Fulfilment::invoice(const Order& order, const Delivery& delivery)
 void Fulfilment::pay(const Order& order, const Part& part, const Delivery& delivery,
                      const QString& invoiceNo, int invoiceDay, int checkDay, const QString& checkNo)
 {
-    const Job& job = m_world.jobs[static_cast<size_t>(order.header->job)];
+    const Job& job = m_world.jobOf(order.header->job);
     const Line& line = *part.line;
     const bool billed = checkDay >= 0 && job.reimbursable;
     m_world.loader.add(m_payments, [&](Recordset& row) {
@@ -152,8 +152,8 @@ void Fulfilment::pay(const Order& order, const Part& part, const Delivery& deliv
 void Fulfilment::registerInvoice(const Order& order, const Delivery& delivery,
                                  const QString& invoiceNo, int invoiceDay)
 {
-    const Job& job = m_world.jobs[static_cast<size_t>(order.header->job)];
-    const Vendor& vendor = m_world.vendors[static_cast<size_t>(order.header->vendor)];
+    const Job& job = m_world.jobOf(order.header->job);
+    const Vendor& vendor = m_world.vendorOf(order.header->vendor);
     const Terms& terms = m_world.terms[static_cast<size_t>(vendor.terms)];
     const qint32 tag = m_world.tags.plain("APINVTAG");
     const auto later = [&](int days) {

@@ -172,6 +172,8 @@ struct World
     {
         return itemsOfShelf[static_cast<size_t>(branch * tradeCount + trade)];
     }
+    const Job& jobOf(int position) const { return jobs[static_cast<size_t>(position)]; }
+    const Vendor& vendorOf(int position) const { return vendors[static_cast<size_t>(position)]; }
     Item& item(int position) { return items[static_cast<size_t>(position)]; }
 
     // One row of the ledger.
