@@ -1,0 +1,1 @@
+// Empty: a target must have a source to carry a precompiled header.
