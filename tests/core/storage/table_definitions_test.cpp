@@ -250,6 +250,21 @@ TEST_F(TableDefinitions, NewFieldsAndIndexesOfAnotherProcessAreSeen)
     rs.Index("NEW");
     EXPECT_TRUE(rs.Seek("=", 3));
     EXPECT_EQ(4, table().Fields().Count());
+    define({"append-field", "NEWER"});
+    workspace.BeginTrans();
+    change(rs, {{"NEWER", 4}});
+    workspace.CommitTrans();
+    EXPECT_EQ("4", text(rs, "NEWER"));
+}
+
+TEST_F(TableDefinitions, AFieldThatCameBackWithAnotherTypeShowsNothingOfTheOld)
+{
+    EXPECT_EQ("b", text(rs, "M"));
+    table().Fields().Delete("M");
+    table().Fields().Append(CreateField("M", FieldType::Long));
+    EXPECT_EQ(3, rs.RecordCount());
+    EXPECT_TRUE(rs.fieldNamed("M").value().isNull());
+    EXPECT_EQ(FieldType::Long, rs.fieldNamed("M").Type());
 }
 
 TEST_F(TableDefinitions, ReadersOfDefinitionsNeverSeeHalfAChange)
