@@ -49,6 +49,35 @@ protected:
     }
 };
 
+// A disk of a few pages, for as long as it lives.
+class SmallDisk
+{
+public:
+    explicit SmallDisk(const QString& folder) : m_folder(folder.toUtf8())
+    {
+        QDir().mkdir(folder);
+        m_mounted = ::mount("tmpfs", m_folder.constData(), "tmpfs", 0, "size=1m") == 0;
+    }
+    ~SmallDisk()
+    {
+        if (m_mounted) {
+            EXPECT_EQ(0, ::umount2(m_folder.constData(), MNT_DETACH));
+        }
+    }
+    SmallDisk(const SmallDisk&) = delete;
+    SmallDisk& operator=(const SmallDisk&) = delete;
+
+    bool isMounted() const { return m_mounted; }
+    void growTo(const char* size)
+    {
+        EXPECT_EQ(0, ::mount("tmpfs", m_folder.constData(), "tmpfs", MS_REMOUNT, size));
+    }
+
+private:
+    QByteArray m_folder;
+    bool m_mounted = false;
+};
+
 // What a killed writer of pairs left: all that it had said was committed, and nothing half.
 void checkPairs(Database& database, int acknowledged)
 {
@@ -115,9 +144,8 @@ TEST_F(Failures, KilledWritersLoseNothingThatTheyHadCommitted)
 TEST_F(Failures, AFullDiskRefusesTheRecordAndKeepsTheRest)
 {
     const QString disk = pathOf("disk");
-    ASSERT_TRUE(QDir().mkdir(disk));
-    const QByteArray mountPoint = disk.toUtf8();
-    if (::mount("tmpfs", mountPoint.constData(), "tmpfs", 0, "size=1m") != 0)
+    SmallDisk smallDisk(disk);
+    if (!smallDisk.isMounted())
         GTEST_SKIP() << "only root may make a small disk here";
     path = disk + "/STORE.mdb";
     Database database = makeTableT();
@@ -140,7 +168,7 @@ TEST_F(Failures, AFullDiskRefusesTheRecordAndKeepsTheRest)
         workspace.CommitTrans();
     });
     EXPECT_EQ(3026, error);
-    ::mount("tmpfs", mountPoint.constData(), "tmpfs", MS_REMOUNT, "size=2m");
+    smallDisk.growTo("size=2m");
     EXPECT_NE(0, errorOf([&] {
                   addOne();
                   workspace.CommitTrans();
@@ -159,13 +187,9 @@ TEST_F(Failures, AFullDiskRefusesTheRecordAndKeepsTheRest)
     EXPECT_EQ(QStringList({"STORE.mdb", "STORE.mdb-journal", "STORE.mdb-turn"}),
               QDir(disk).entryList(QDir::Files))
         << "no torn files are left";
-    ::mount("tmpfs", mountPoint.constData(), "tmpfs", MS_REMOUNT, "size=4m");
+    smallDisk.growTo("size=4m");
     addOne();
     EXPECT_EQ(added + 1, openElsewhere().RecordCount());
-    workspace.Close();
-    elsewhere.Close();
-    closeIdleEngines();
-    EXPECT_EQ(0, ::umount(mountPoint.constData()));
 }
 
 TEST_F(Failures, AFileThatMayNotGrowRefusesTheRecordAndKeepsTheRest)
