@@ -274,6 +274,11 @@ void SqliteConnection::execute(const char* sql)
         failWith(sqlite3_extended_errcode(m_handle));
 }
 
+void SqliteConnection::executeQuietly(const char* sql)
+{
+    sqlite3_exec(m_handle, sql, nullptr, nullptr, nullptr);
+}
+
 SqliteConnection::Counters SqliteConnection::counters() const
 {
     unsigned char bytes[20] = {};

@@ -78,6 +78,8 @@ public:
     quint64 rowsWritten() const;
 
     void execute(const char* sql);
+    // For what ends a read or a broken transaction, where there is nothing to do about a failure.
+    void executeQuietly(const char* sql);
     // The rows of a statement that is run once; `row` is called for each.
     template <class Row>
     void query(const QByteArray& sql, Row row)

@@ -3,16 +3,13 @@
 #include <sqlite3.h>
 #include <sys/vfs.h>
 
-#include <QAbstractEventDispatcher>
 #include <QFile>
-#include <QTimer>
 
 #include "core/storage/sqlite_fetch.h"
 
 namespace storage {
 namespace {
 
-constexpr int leaseMilliseconds = 5;
 constexpr int leaseFromRows = 16;  // blocks of this size are a walk
 
 // File system numbers of the kernel: NFS, SMB, CIFS, SMB2, FUSE (sshfs and the like), 9P.
@@ -46,6 +43,16 @@ QByteArray columnList(const TableDefinition& table, std::span<const Engine::Assi
     return sql;
 }
 
+QByteArray insertSql(const TableDefinition& table, std::span<const Engine::Assignment> values)
+{
+    const QByteArray start = "INSERT INTO " + quotedName(table.name);
+    if (values.empty())
+        return start + " DEFAULT VALUES";
+    QByteArray marks = QByteArray("?,").repeated(static_cast<qsizetype>(values.size()));
+    marks.chop(1);
+    return start + '(' + columnList(table, values, ",") + ") VALUES(" + marks + ')';
+}
+
 }  // namespace
 
 // A read transaction around the statements of one block, where none is open.
@@ -61,7 +68,7 @@ public:
     ~ReadScope()
     {
         if (m_open)
-            sqlite3_exec(m_engine.m_connection.handle(), "COMMIT", nullptr, nullptr, nullptr);
+            m_engine.m_connection.executeQuietly("COMMIT");
     }
     ReadScope(const ReadScope&) = delete;
     ReadScope& operator=(const ReadScope&) = delete;
@@ -82,7 +89,8 @@ SqliteEngine::SqliteEngine(const QString& path, SqliteConnection::Mode mode)
     : m_connection(path, mode),
       m_catalogue(m_connection),
       m_turn(path),
-      m_onShare(liesOnShare(path))
+      m_onShare(liesOnShare(path)),
+      m_lease(m_connection)
 {
     // With the head of the file mapped, a look at its counters costs nanoseconds, not a system
     // call. No more of it: a file that someone cuts short under a mapping would end the process.
@@ -110,7 +118,7 @@ SqliteEngine::~SqliteEngine()
 {
     if (m_inTransaction)
         rollback();
-    endLease();
+    m_lease.end();
 }
 
 SqliteStatement& SqliteEngine::statement(const QByteArray& sql)
@@ -131,6 +139,7 @@ void SqliteEngine::refreshCatalogue()
     m_catalogueCookie = cookie;
     m_catalogue.forget();
     m_plans.clear();
+    m_inserts.clear();
     m_counts.clear();
 }
 
@@ -156,10 +165,8 @@ Version SqliteEngine::version()
 
 bool SqliteEngine::isFresh(const Version& seen)
 {
-    if (leaseHolds()) {
-        return seen == m_leaseVersion;  // own writes end the lease
-    }
-    return seen == version();
+    // Own writes end the lease.
+    return seen == (m_lease.holds() ? m_lease.version() : version());
 }
 
 std::shared_ptr<FetchPlan> SqliteEngine::plan(const std::shared_ptr<const TableDefinition>& table,
@@ -180,12 +187,12 @@ void SqliteEngine::fetch(FetchPlan& plan, Direction direction, const FetchStart&
     auto& rows = static_cast<SqliteFetch&>(plan);
     block.start(rows.columnCount());
     if (m_onShare && limit >= leaseFromRows)
-        takeLease();
+        m_lease.take([this] { return version(); });
     const ReadScope scope(*this, !rows.isOneStatement(direction, start));
     bool versionRead = false;
     rows.fetch(direction, start, limit, block, [&] {
         if (!versionRead)
-            block.version = m_leaseOpen ? m_leaseVersion : version();
+            block.version = m_lease.isOpen() ? m_lease.version() : version();
         versionRead = true;
     });
 }
@@ -228,7 +235,7 @@ int SqliteEngine::write(SqliteStatement& writing)
 {
     refuseReadOnly();
     refuseBrokenTransaction();
-    endLease();
+    m_lease.end();
     if (!m_inTransaction)
         m_turn.take(lockWaitLimit());
     const SqliteStatement::Run run(writing);
@@ -250,15 +257,16 @@ int SqliteEngine::write(SqliteStatement& writing)
 
 RecordId SqliteEngine::insert(const TableDefinition& table, std::span<const Assignment> values)
 {
-    QByteArray sql = "INSERT INTO " + quotedName(table.name);
-    if (values.empty()) {
-        sql += " DEFAULT VALUES";
-    } else {
-        sql += '(' + columnList(table, values, ",") + ") VALUES(";
-        sql += QByteArray("?,").repeated(static_cast<qsizetype>(values.size()));
-        sql.back() = ')';
-    }
-    SqliteStatement& inserting = statement(sql);
+    // Bulk loads put in rows of one kind: found without writing the statement out each time. The
+    // address tells definitions apart for as long as these statements are kept.
+    const TableDefinition* definition = &table;
+    QByteArray kind(reinterpret_cast<const char*>(&definition), sizeof definition);
+    for (const Assignment& value : values)
+        kind.append(reinterpret_cast<const char*>(&value.field), sizeof value.field);
+    auto& known = m_inserts[kind];
+    if (!known)
+        known = std::make_shared<SqliteStatement>(m_connection, insertSql(table, values));
+    SqliteStatement& inserting = *known;
     int parameter = 0;
     for (const Assignment& value : values)
         inserting.bind(++parameter, value.value);
@@ -292,7 +300,7 @@ void SqliteEngine::remove(const TableDefinition& table, RecordId id)
 void SqliteEngine::begin()
 {
     refuseReadOnly();
-    endLease();
+    m_lease.end();
     m_turn.take(lockWaitLimit());
     try {
         m_connection.execute("BEGIN IMMEDIATE");
@@ -320,11 +328,12 @@ void SqliteEngine::commit()
 
 void SqliteEngine::rollback()
 {
-    sqlite3_exec(m_connection.handle(), "ROLLBACK", nullptr, nullptr, nullptr);
+    m_connection.executeQuietly("ROLLBACK");
     ++m_rollbacks;  // what was read inside is no longer true, though no counter of the file moved
     m_catalogue.forget();
     ++m_ownDefinitionChanges;
     m_plans.clear();
+    m_inserts.clear();
     m_counts.clear();
     m_inTransaction = false;
     m_turn.giveBack();
@@ -340,6 +349,7 @@ void SqliteEngine::changeDefinitions(Change change)
     // Statements that still know the old table would keep it from being changed.
     m_statements.clear();
     m_plans.clear();
+    m_inserts.clear();
     m_counts.clear();
     try {
         change();
@@ -398,48 +408,6 @@ QStringList SqliteEngine::checkIntegrity()
             findings.append(row.textAt(0));
     });
     return findings;
-}
-
-bool SqliteEngine::leaseHolds()
-{
-    if (!m_leaseOpen)
-        return false;
-    if (m_leaseAge.elapsed() < leaseMilliseconds)
-        return true;
-    endLease();
-    return false;
-}
-
-void SqliteEngine::takeLease()
-{
-    // Without an event loop nobody would give the lock back while the process is busy elsewhere.
-    if (leaseHolds() || m_connection.inTransaction() || !QAbstractEventDispatcher::instance())
-        return;
-    m_connection.execute("BEGIN");
-    try {
-        m_connection.query("SELECT count(*) FROM _tables WHERE rowid < 0", [](SqliteStatement&) {});
-    } catch (...) {
-        // Left open, it would swallow the next write, which then would never be committed.
-        m_connection.execute("ROLLBACK");
-        throw;
-    }
-    m_leaseVersion = version();
-    m_leaseOpen = true;
-    m_leaseAge.start();
-    if (!m_leaseTimer) {
-        m_leaseTimer = std::make_unique<QTimer>();
-        m_leaseTimer->setSingleShot(true);
-        QObject::connect(m_leaseTimer.get(), &QTimer::timeout, [this] { endLease(); });
-    }
-    m_leaseTimer->start(leaseMilliseconds);
-}
-
-void SqliteEngine::endLease()
-{
-    if (!m_leaseOpen)
-        return;
-    sqlite3_exec(m_connection.handle(), "COMMIT", nullptr, nullptr, nullptr);
-    m_leaseOpen = false;
 }
 
 }  // namespace storage

@@ -1,15 +1,13 @@
 // The engine on SQLite. See engine.h for what each function promises.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QHash>
 
 #include "core/storage/engine.h"
+#include "core/storage/read_lease.h"
 #include "core/storage/sqlite_catalogue.h"
 #include "core/storage/sqlite_connection.h"
 #include "core/storage/writer_turn.h"
-
-class QTimer;
 
 namespace storage {
 
@@ -54,7 +52,7 @@ public:
 
     QStringList checkIntegrity() override;
     void copyTo(const QString& path) override { m_connection.copyTo(path); }
-    void goIdle() override { endLease(); }
+    void goIdle() override { m_lease.end(); }
 
     // Treats the file as lying on a share, whatever it lies on; for tests.
     void assumeShare() { m_onShare = true; }
@@ -71,9 +69,6 @@ private:
     int write(SqliteStatement& statement);
     template <class Change>
     void changeDefinitions(Change change);
-    bool leaseHolds();
-    void takeLease();
-    void endLease();
 
     SqliteConnection m_connection;
     SqliteCatalogue m_catalogue;
@@ -82,7 +77,8 @@ private:
     quint64 m_rollbacks = 0;
     quint32 m_catalogueCookie = 0;
     quint32 m_ownDefinitionChanges = 0;
-    QHash<QByteArray, std::shared_ptr<SqliteStatement>> m_statements;
+    QHash<QByteArray, std::shared_ptr<SqliteStatement>> m_statements;  // by text
+    QHash<QByteArray, std::shared_ptr<SqliteStatement>> m_inserts;     // by table and fields
     QHash<QByteArray, std::shared_ptr<FetchPlan>> m_plans;
 
     struct Count
@@ -92,13 +88,8 @@ private:
     };
     QHash<QString, Count> m_counts;
 
-    // On a share each look at the file costs a round trip. A walk there keeps its read lock for a
-    // few milliseconds instead, during which nobody can commit and every block stays true.
     bool m_onShare = false;
-    bool m_leaseOpen = false;
-    QElapsedTimer m_leaseAge;
-    Version m_leaseVersion;
-    std::unique_ptr<QTimer> m_leaseTimer;
+    ReadLease m_lease;
 };
 
 }  // namespace storage

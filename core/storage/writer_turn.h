@@ -4,6 +4,7 @@
 // that the system frees it when a process dies.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QString>
 
 namespace storage {
@@ -24,10 +25,13 @@ public:
 
 private:
     void openFile();
+    void waitForTurn(int limitMilliseconds);
 
     QString m_databasePath;
     int m_file = -1;
     bool m_held = false;
+    QElapsedTimer m_sinceLast;  // had the turn
+    QElapsedTimer m_burst;      // of turns one after the other
 };
 
 // Sleeps a short random time, longer with each failed try, so that waiters do not march in step.
