@@ -120,7 +120,10 @@ void DesktopArea::changeEvent(QEvent* event)
 void DesktopArea::mousePressEvent(QMouseEvent* event)
 {
     QMdiArea::mousePressEvent(event);
-    cascadeSubWindows();
+    // Presses that a screen did not want come up to here, too; only the empty area cascades.
+    const bool onScreen = viewport()->childAt(event->position().toPoint()) != nullptr;
+    if (event->button() == Qt::LeftButton && !onScreen)
+        cascadeSubWindows();
 }
 
 void DesktopArea::paintEvent(QPaintEvent* event)

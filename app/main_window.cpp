@@ -30,6 +30,8 @@ frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
     buildMenus();
     buildStatusBar();
     new ScreenKeys(m_area);
+    m_timer.setParent(this);
+    m_timer.setObjectName("tmrMAIN");
     connect(&m_timer, &QTimer::timeout, this, [this] { m_watch.tick(); });
     installRefusalScreen([](const QString& userName, const QString& process) {
         frmDNNETNoAccess(userName, process)->exec();
@@ -145,7 +147,6 @@ void frmVEXMAIN::selectJobSite()
     frmDBPSelect choice(m_session);
     choice.exec();
     m_startup.takeJobSite(choice.selectedPath());
-    showSession();
 }
 
 void frmVEXMAIN::editUserSettings()
@@ -212,6 +213,7 @@ void frmVEXMAIN::showSplash(const QString& versionText)
 void frmVEXMAIN::setCaption(const QString& caption)
 {
     setWindowTitle(caption);
+    showSession();
 }
 
 void frmVEXMAIN::setTimerInterval(int milliseconds)

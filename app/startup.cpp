@@ -189,11 +189,12 @@ void Startup::takeJobSite(const QString& chosenPath)
     {
         OpenTable chosen = openLocator("VEXPATH");
         const OpenTable sites = openLocator("DBPATHS");
-        if (dnNotBlank(chosenPath))
-            m_session.JobSitePath = chosenPath.trimmed();
+        const QString path = dnNotBlank(chosenPath) ? chosenPath.trimmed() : m_session.JobSitePath;
         chosen.rows.Edit();
-        chosen.rows["PATH"] = m_session.JobSitePath;
+        chosen.rows["PATH"] = path;
         chosen.rows.Update();
+        // Only now: a session half in one job site would give out tags of the other.
+        m_session.JobSitePath = path;
 
         m_session.JobSiteName = "Undefined";
         storage::Recordset rows = sites.rows;

@@ -54,10 +54,13 @@ frmNETSET::frmNETSET(const Session& session, const QString& moduleCode)
 
 void frmNETSET::load()
 {
-    const qint32 tag = listedUserTag(m_userName);
-    m_userTag->setText(tag == 0 ? QString(none) : QString::number(tag));
+    // The folder first: it is what there is to mend when the database in it cannot be opened.
     const QString folder = storedNetworkFolder();
     m_path->setFolder(folder.isEmpty() ? QString(none) : folder);
+    m_userTag->setText(none);
+    const qint32 tag = listedUserTag(m_userName);
+    if (tag != 0)
+        m_userTag->setText(QString::number(tag));
 }
 
 void frmNETSET::setEditing(bool editing)

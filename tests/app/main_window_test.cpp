@@ -91,6 +91,40 @@ TEST_F(MainWindowTest, TheSessionIsShownAfterTheLoad)
     EXPECT_EQ(labelText(window, "lblJobSiteName"), "Job Site: NORTH YARD");
 }
 
+TEST_F(MainWindowTest, ItsTimerShowsTheWindowAndEndsTheProcessUnderAnOpenBox)
+{
+    whenModalOpens([](QDialog& splash) { splash.close(); });
+    ASSERT_EQ(window.load(), LoadResult::Loaded);
+    control<QTimer>(window, "tmrMAIN").setInterval(1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.isVisible(); }));
+    site.makeMarker(site.siteFolder(), "SHUTDOWNVEX.txt");
+    QDialog box;
+    QTimer::singleShot(3000, &box, &QDialog::reject);
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &box, [&] {
+        if (ended > 0)
+            box.accept();
+    });
+    look.start(5);
+    EXPECT_EQ(box.exec(), QDialog::Accepted) << "the marker was not seen under the box";
+}
+
+TEST_F(MainWindowTest, OnlyAClickOnTheEmptyAreaCascades)
+{
+    load();
+    window.resize(1000, 700);
+    window.show();
+    entry("miNETSET").trigger();
+    QMdiSubWindow* frame = frameOf("frmNETSET");
+    ASSERT_TRUE(frame);
+    frame->move(200, 150);
+    settle();
+    QTest::mouseClick(frame->widget(), Qt::RightButton, {}, {2, 2});
+    EXPECT_EQ(frame->pos(), QPoint(200, 150));
+    QTest::mouseClick(desktop().viewport(), Qt::LeftButton, {}, {5, 600});
+    EXPECT_NE(frame->pos(), QPoint(200, 150));
+}
+
 TEST_F(MainWindowTest, AShutdownMarkerShowsItsNoticeAndNothingElse)
 {
     site.makeMarker(site.programFolder(), "SHUTDOWNVEX.txt");

@@ -170,6 +170,16 @@ TEST_F(StartupTest, OfTwoRowsWithOnePathTheStartTakesTheFirstAndChoosingTakesThe
     EXPECT_EQ(window.title, "Zorvane Suite - Vexley Module    Job Site: AGAIN");
 }
 
+TEST_F(StartupTest, AChoiceThatCannotBeStoredLeavesTheSessionWhereItWas)
+{
+    ASSERT_EQ(load(), LoadResult::Loaded);
+    const QString other = site.copyFolder(site.siteFolder(), "other");
+    site.removeFile("VEXPATH.mdb");
+    EXPECT_THROW(startup.takeJobSite(other), storage::StorageError);
+    EXPECT_EQ(session.JobSitePath, site.siteFolder());
+    EXPECT_EQ(session.SiteTag, 1);
+}
+
 TEST_F(StartupTest, AChosenJobSiteIsThisMachinesFromThenOn)
 {
     ASSERT_EQ(load(), LoadResult::Loaded);
