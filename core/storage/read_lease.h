@@ -1,7 +1,8 @@
 // On a share each look at a file costs a round trip. A walk there keeps its read lock for a few
 // milliseconds instead, during which nobody can commit and every block read stays true. The lock is
-// given back by a timer, when the file falls idle, and before any write. Without an event loop
-// there is no lease: nobody would give it back while the process is busy elsewhere.
+// given back by a timer of the event loop, when the file falls idle, and before any write. A
+// process that is busy with something else in the middle of a walk keeps it until its event loop
+// runs again, and others who write wait that long. Without an event loop there is no lease.
 #pragma once
 
 #include <QElapsedTimer>

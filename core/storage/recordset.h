@@ -2,8 +2,9 @@
 //
 // The position. Moving past an end leaves the handle at EOF or BOF, without a current record; the
 // other way leads back in. After a failed Seek, and on an empty table, there is no current record
-// either; after a Delete there is none until the next move, which goes on from where the deleted
-// record stood. Reading a field or moving on without a position is NoCurrentRecord.
+// either, not even when the first record is then added to it; after a Delete there is none until
+// the next move, which goes on from where the deleted record stood. Reading a field or moving on
+// without a position is NoCurrentRecord, reading a deleted record RecordDeleted.
 //
 // Other users. A move sees what others added, changed or deleted until then. The current record's
 // fields are as they were at the last move; Edit reads them anew.
@@ -80,11 +81,13 @@ public:
     QString Name() const;
     const TableDefinition& definition() const;
 
-    // Chooses the index that the moves follow; empty: physical order. The current record stays.
+    // Chooses the index that the moves follow; empty: physical order. The current record stays,
+    // an edit that was begun is abandoned.
     void Index(const QString& name);
     QString Index() const;
 
-    // `op` is "=" or ">="; fewer keys than the index has match its first fields. True if found.
+    // `op` is "=" or ">="; fewer keys than the index has match its first fields, more are
+    // NotInCollection. True if found.
     template <class... Keys>
     bool Seek(const char* op, const Keys&... keys)
     {
@@ -112,7 +115,8 @@ public:
     QString Bookmark() const;
     // A text that is no bookmark: BookmarkNotValid. A record that is gone: RecordDeleted.
     void Bookmark(const QString& bookmark);
-    // The bookmark of the record last added or changed through this handle.
+    // The bookmark of the record last added or changed through this handle; NoCurrentRecord before
+    // the first.
     QString LastModified() const;
 
     Field operator[](schema::FieldName name) const { return Fields(name); }

@@ -28,6 +28,7 @@ struct TableDefState
     const TableDefinition& current();
 };
 
+// A Text field needs a size; one of 0 holds nothing.
 FieldDefinition CreateField(const QString& name, FieldType type, int size = 0);
 IndexDefinition CreateIndex(const QString& name, const QStringList& fields, bool unique = false);
 

@@ -56,7 +56,9 @@ public:
     Database CreateDatabase(const QString& path) const;
 
     // A transaction over the databases of this workspace. Each takes its writer's turn when it is
-    // first touched, read or written, so that what is read inside is what is written over.
+    // first touched, read or written, so that what is read inside is what is written over. Other
+    // workspaces of this process cannot write to these files meanwhile, but they do read what is not
+    // committed yet: all share one connection a file. Files are committed one after the other.
     void BeginTrans();
     // A failed commit has rolled back. TransactionMismatch without BeginTrans.
     void CommitTrans();
