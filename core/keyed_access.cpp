@@ -99,13 +99,17 @@ bool dnInbounds(Recordset& rs, KeyFields keys)
 
 QString dnNextBookmark(Recordset& rs, const QString& bookmark, KeyFields keys)
 {
-    rs.Bookmark(bookmark);
-    rs.MoveNext();
-    if (dnInbounds(rs, keys))
-        return rs.Bookmark();
-    rs.Bookmark(bookmark);
-    rs.MovePrevious();
-    if (dnInbounds(rs, keys))
-        return rs.Bookmark();
+    try {
+        rs.Bookmark(bookmark);
+        rs.MoveNext();
+        if (dnInbounds(rs, keys))
+            return rs.Bookmark();
+        rs.Bookmark(bookmark);
+        rs.MovePrevious();
+        if (dnInbounds(rs, keys))
+            return rs.Bookmark();
+    } catch (const StorageError& error) {
+        showCritical("Error: dnNextBookmark", error.description());
+    }
     return noBookmark;
 }

@@ -24,7 +24,9 @@ qint32 drawTag(const QString& file, const QString& fieldName, const QString& tab
     }
     rs.MoveFirst();
     const storage::Field counter = rs.fieldNamed(fieldName);
-    const qint32 stored = intOf(counter);
+    // A null counter was never used. Read without a box of its own: one would stand while others
+    // wait for the counter, and a failure taken for 0 would give tags out twice.
+    const qint32 stored = counter.value().toInt();
     const qint32 value = stored == 0 ? 1 : stored;
     rs.Edit();
     counter = asLong(qint64(value) + 1);

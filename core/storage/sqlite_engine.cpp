@@ -172,7 +172,11 @@ bool SqliteEngine::isFresh(const Version& seen)
 std::shared_ptr<FetchPlan> SqliteEngine::plan(const std::shared_ptr<const TableDefinition>& table,
                                               int index, const std::vector<int>& columns)
 {
-    QByteArray name = table->name.toUtf8().append('\n').append(QByteArray::number(index));
+    // By the definition, not its name: a handle that has not followed a change yet asks with the
+    // old one. The plan holds it, so its address is nobody else's meanwhile.
+    const TableDefinition* definition = table.get();
+    QByteArray name(reinterpret_cast<const char*>(&definition), sizeof definition);
+    name.append(QByteArray::number(index));
     for (const int column : columns)
         name.append(',').append(QByteArray::number(column));
     auto& known = m_plans[name];

@@ -33,6 +33,25 @@ protected:
     Recordset rs;
 };
 
+TEST_F(TableDefinitions, AHandleThatHasNotFollowedAChangeMisleadsNoOther)
+{
+    TableDef made = CreateTableDef("Four");
+    for (const char* name : {"A", "B", "C", "D"})
+        made.Fields().Append(CreateField(name, FieldType::Text, 8));
+    database.TableDefs().Append(made);
+    Recordset first = database.OpenRecordset("Four");
+    first.AddNew();
+    for (const char* name : {"A", "B", "C", "D"})
+        first.fieldNamed(name) = name;
+    first.Update();
+    first.MoveFirst();
+    made.Fields().Delete("A");
+    EXPECT_EQ(Value("C"), first.fieldNamed("C").value());
+    const Recordset second = database.OpenRecordset("Four");
+    EXPECT_EQ(Value("D"), second.fieldNamed("D").value());
+    EXPECT_EQ(Value("B"), second.fieldNamed("B").value());
+}
+
 TEST_F(TableDefinitions, TablesAreMadeFoundListedAndDeleted)
 {
     TableDef made = CreateTableDef("Second");
