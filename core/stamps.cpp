@@ -6,13 +6,16 @@
 
 namespace {
 
-QString stampDate()
+struct Moment
 {
-    return System::current().now().toString("MM/dd/yyyy");
-}
-QString stampTime()
+    QString date;
+    QString time;
+};
+
+Moment presentMoment()
 {
-    return System::current().now().toString("h:mm AP");
+    const QDateTime now = System::current().now();
+    return {now.toString("MM/dd/yyyy"), now.toString("h:mm AP")};
 }
 
 QString shown(const storage::Field& field)
@@ -25,11 +28,12 @@ QString shown(const storage::Field& field)
 
 void zorStampAdd(storage::Recordset& rs, const QString& bookmark, const QString& userName)
 {
+    const Moment now = presentMoment();
     rs.Bookmark(bookmark);
     rs.Edit();
     rs["ADDNAME"] = userName.trimmed();
-    rs["ADDDATE"] = stampDate();
-    rs["ADDTIME"] = stampTime();
+    rs["ADDDATE"] = now.date;
+    rs["ADDTIME"] = now.time;
     rs["EDITNAME"] = " ";
     rs["EDITDATE"] = " ";
     rs["EDITTIME"] = " ";
@@ -38,11 +42,12 @@ void zorStampAdd(storage::Recordset& rs, const QString& bookmark, const QString&
 
 void zorStampEdit(storage::Recordset& rs, const QString& bookmark, const QString& userName)
 {
+    const Moment now = presentMoment();
     rs.Bookmark(bookmark);
     rs.Edit();
     rs["EDITNAME"] = userName.trimmed();
-    rs["EDITDATE"] = stampDate();
-    rs["EDITTIME"] = stampTime();
+    rs["EDITDATE"] = now.date;
+    rs["EDITTIME"] = now.time;
     rs.Update();
 }
 

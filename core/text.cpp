@@ -31,9 +31,11 @@ QString dnPhoneFormat(const QString& text)
 QString dnProperCase(const QString& text, const QString& separator)
 {
     QString result = text.trimmed();
-    if (result.isEmpty() || separator.isEmpty())
+    if (result.isEmpty())
         return result;
     result[0] = result[0].toUpper();
+    if (separator.isEmpty())
+        return result;
     for (qsizetype at = result.indexOf(separator); at >= 0;
          at = result.indexOf(separator, at + 1)) {
         const qsizetype next = at + separator.size();
