@@ -3,7 +3,6 @@
 #include "app/desktop_area.h"
 #include "app/screen_keys.h"
 #include "app/screen_table.h"
-#include "app/window_place.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "multiuser/users.h"
@@ -12,11 +11,13 @@
 #include "screens/notices.h"
 #include "screens/plain_notes.h"
 #include "screens/splash.h"
+#include "screens/user_layout.h"
 #include "screens/user_settings.h"
 
 namespace {
 constexpr char moduleName[] = "Vexley Module";
-}
+constexpr char placeKey[] = "frmVEXMAIN/geometry";
+}  // namespace
 
 frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
     : m_endProcess(std::move(endProcess)),
@@ -188,14 +189,14 @@ void frmVEXMAIN::closeEvent(QCloseEvent* event)
 
 void frmVEXMAIN::restorePlace()
 {
-    const QByteArray place = storedWindowPlace(m_session.UserSettingsPath);
+    const QByteArray place = UserLayout(m_session.UserSettingsPath).value(placeKey).toByteArray();
     if (!place.isEmpty())
         restoreGeometry(place);
 }
 
 void frmVEXMAIN::savePlace() const
 {
-    storeWindowPlace(m_session.UserSettingsPath, saveGeometry());
+    UserLayout(m_session.UserSettingsPath).setValue(placeKey, saveGeometry());
 }
 
 void frmVEXMAIN::showShutdownNotice()

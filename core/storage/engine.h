@@ -112,6 +112,15 @@ public:
     // Exact, and cheap while nothing was written.
     virtual qint64 count(const TableDefinition& table) = 0;
 
+    // Along an index (-1: by record id), among the rows whose first keys equal `parent`: how many
+    // lie before (key, id), a key of all the index's fields; all of them with id 0. And the id of
+    // the row with `before` others before it; 0 when there are fewer.
+    virtual qint64 countBefore(const TableDefinition& table, int index,
+                               std::span<const Value> parent, std::span<const Value> key,
+                               RecordId id) = 0;
+    virtual RecordId recordAt(const TableDefinition& table, int index,
+                              std::span<const Value> parent, qint64 before) = 0;
+
     struct Assignment
     {
         int field;  // position in the definition

@@ -112,6 +112,14 @@ public:
     // Exact at this moment, others' additions and deletions included.
     int RecordCount() const;
 
+    // Among the records whose first fields along the index equal the keys (all, for none): how many
+    // there are, how many lie before the current one, and a move to the one with `before` others
+    // before it (false, and no current record, when there are fewer). Each reads that part of the
+    // index: some 20 ms at 500,000 records.
+    qint64 countWithin(std::span<const Value> keys) const;
+    qint64 countBefore(std::span<const Value> keys) const;
+    bool moveTo(std::span<const Value> keys, qint64 before);
+
     QString Bookmark() const;
     // A text that is no bookmark: BookmarkNotValid. A record that is gone: RecordDeleted.
     void Bookmark(const QString& bookmark);

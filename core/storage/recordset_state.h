@@ -71,6 +71,9 @@ struct RecordsetState
     bool move(Direction direction);
     void goTo(RecordId wanted);
     RecordId currentId();
+    qint64 countWithin(std::span<const Value> keys);
+    qint64 countBefore(std::span<const Value> keys);
+    bool moveTo(std::span<const Value> keys, qint64 before);
     Value fieldValue(FieldPlace field);
     void setFieldValue(FieldPlace field, const Value& value);
     void addNew();
@@ -108,6 +111,7 @@ private:
     void wantIndexFields();
     void requireRecord();
     void keepKey();
+    std::vector<Value> asKeys(std::span<const Value> keys) const;
     FetchPlan& plan();
     bool followDefinition(const Version& version);
     std::vector<std::optional<Value>> bufferFor(const TableDefinition& fresh) const;

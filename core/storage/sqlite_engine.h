@@ -31,6 +31,10 @@ public:
                RowBlock& block) override;
     void fetchRecord(FetchPlan& plan, RecordId id, RowBlock& block) override;
     qint64 count(const TableDefinition& table) override;
+    qint64 countBefore(const TableDefinition& table, int index, std::span<const Value> parent,
+                       std::span<const Value> key, RecordId id) override;
+    RecordId recordAt(const TableDefinition& table, int index, std::span<const Value> parent,
+                      qint64 before) override;
 
     RecordId insert(const TableDefinition& table, std::span<const Assignment> values) override;
     void update(const TableDefinition& table, RecordId id,
@@ -63,6 +67,9 @@ private:
     SqliteStatement& statement(const QByteArray& sql);
     void refuseWithoutCatalogue();
     void refreshCatalogue();
+    // The first number of the first row; 0 without one.
+    qint64 countRows(const QByteArray& sql, std::span<const Value> equal,
+                     const Value* beyond = nullptr);
     void refuseReadOnly() const;
     void refuseBrokenTransaction() const;
     // Runs one writing statement, in its turn; gives the number of rows written.

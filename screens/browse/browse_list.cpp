@@ -39,6 +39,14 @@ void BrowseList::guarded(Move move)
     }
 }
 
+std::vector<storage::Value> BrowseList::parentKeys() const
+{
+    std::vector<storage::Value> keys;
+    for (const KeyField& key : m_source.parent)
+        keys.push_back(key.key);
+    return keys;
+}
+
 bool BrowseList::withinFilter()
 {
     if (m_rows.BOF() || m_rows.EOF())
@@ -72,9 +80,7 @@ void BrowseList::findEnds()
     BrowseFirst = BrowseLast = noBookmark;
     if (m_rows.RecordCount() == 0)
         return;
-    std::vector<storage::Value> keys;
-    for (const KeyField& key : m_source.parent)
-        keys.push_back(key.key);
+    const std::vector<storage::Value> keys = parentKeys();
     const bool any = keys.empty() ? m_rows.MoveFirst() : m_rows.seekKeys("=", keys);
     if (!any || (!withinFilter() && !step(true)))
         return;
@@ -361,4 +367,40 @@ int BrowseList::makeEntryRow()
         m_lines.back() = {};
     });
     return BrowseMaxRow;
+}
+
+BrowseList::Position BrowseList::position()
+{
+    Position place;
+    if (isEmpty())
+        return place;
+    guarded([&] {
+        const std::vector<storage::Value> keys = parentKeys();
+        place.count = m_rows.countWithin(keys);
+        place.before = goTo(BrowseTop) ? m_rows.countBefore(keys) : place.count;
+    });
+    return place;
+}
+
+void BrowseList::showAt(qint64 before)
+{
+    if (isEmpty())
+        return;
+    guarded([&] {
+        if (m_rows.moveTo(parentKeys(), before) && (withinFilter() || step(true)))
+            show(m_rows.Bookmark());
+        else
+            show(BrowseLast);
+    });
+}
+
+void BrowseList::walk(const std::function<bool(const QStringList&)>& take)
+{
+    guarded([&] {
+        if (!goTo(BrowseFirst))
+            return;
+        bool inside = withinFilter();
+        while (inside && take(m_readCells(m_rows)))
+            inside = step(true);
+    });
 }

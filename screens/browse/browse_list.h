@@ -78,6 +78,19 @@ public:
     bool isEmpty() const { return BrowseFirst == noBookmark; }
     bool isOnRecord() const { return BrowseCurrent != noBookmark; }
 
+    // How many records the list has, and how many lie before row 0. Counted anew: milliseconds on
+    // long lists. A narrower filter is not counted.
+    struct Position
+    {
+        qint64 before = 0;
+        qint64 count = 0;
+    };
+    Position position();
+    // The record after `before` others to row 0, under the highlight.
+    void showAt(qint64 before);
+    // The cells of every record from the first on, while `take` gives true. The page stays.
+    void walk(const std::function<bool(const QStringList&)>& take);
+
     // The handle, for whoever writes to the table. Move it freely: each call goes to its own place.
     storage::Recordset& rows() { return m_rows; }
     const BrowseSource& source() const { return m_source; }
@@ -93,6 +106,7 @@ public:
     int BrowseMaxRow = 7;  // index of the last row
 
 private:
+    std::vector<storage::Value> parentKeys() const;
     bool withinFilter();
     bool step(bool forward);
     bool goTo(const QString& bookmark);

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "app/screen_table.h"
-#include "app/window_place.h"
 #include "core/storage/file_paths.h"
 #include "screens/desktop.h"
+#include "screens/user_layout.h"
 #include "tests/support/fixed_system.h"
 #include "tests/support/scripted_messages.h"
 #include "tests/support/test_installation.h"
@@ -357,15 +357,16 @@ TEST_F(MainWindowTest, ThePlaceOfTheWindowIsRememberedForTheUser)
     window.resize(901, 602);
     QTimer::singleShot(0, &window, &QWidget::close);
     EXPECT_EQ(QCoreApplication::exec(), 0) << "closing the window ends the program";
-    EXPECT_FALSE(storedWindowPlace(site.userFolder()).isEmpty());
+    EXPECT_FALSE(
+        UserLayout(site.userFolder()).value("frmVEXMAIN/geometry").toByteArray().isEmpty());
     frmVEXMAIN again([] {});
-    again.restoreGeometry(storedWindowPlace(site.userFolder()));
+    again.restoreGeometry(UserLayout(site.userFolder()).value("frmVEXMAIN/geometry").toByteArray());
     EXPECT_EQ(again.size(), QSize(901, 602));
 
     QTimer::singleShot(0, &entry("miExit"), &QAction::trigger);
     EXPECT_EQ(QCoreApplication::exec(), 0) << "and so does its entry";
 
-    storeWindowPlace(site.userFolder() + "/none", "x");
+    UserLayout(site.userFolder() + "/none").setValue("frmVEXMAIN/geometry", "x");
     EXPECT_FALSE(QFileInfo::exists(site.userFolder() + "/none"));
 }
 

@@ -1,0 +1,97 @@
+#include "screens/browse/browse_page.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPalette>
+
+void BrowsePage::setColumns(const std::vector<GridColumn>& columns)
+{
+    beginResetModel();
+    m_columns = columns;
+    endResetModel();
+}
+
+void BrowsePage::setEndTexts(const QString& endOfList, const QString& listIsEmpty)
+{
+    m_endOfList = endOfList;
+    m_listIsEmpty = listIsEmpty;
+}
+
+void BrowsePage::refresh()
+{
+    const int rows = static_cast<int>(m_list.lines().size());
+    if (rows > m_rowsShown) {
+        beginInsertRows({}, m_rowsShown, rows - 1);
+        m_rowsShown = rows;
+        endInsertRows();
+    } else if (rows < m_rowsShown) {
+        beginRemoveRows({}, rows, m_rowsShown - 1);
+        m_rowsShown = rows;
+        endRemoveRows();
+    }
+    if (rows > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+}
+
+int BrowsePage::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_rowsShown;
+}
+
+int BrowsePage::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(m_columns.size()) + 1;
+}
+
+QString BrowsePage::textAt(const BrowseLine& line, int column) const
+{
+    switch (line.kind) {
+        case BrowseLine::Kind::Record:
+            return line.cells.value(column);
+        case BrowseLine::Kind::EndOfList:
+            return column == 0 ? m_endOfList : QString();
+        case BrowseLine::Kind::ListIsEmpty:
+            return column == 0 ? m_listIsEmpty : QString();
+        case BrowseLine::Kind::Blank:
+            break;
+    }
+    return {};
+}
+
+QVariant BrowsePage::data(const QModelIndex& index, int role) const
+{
+    const auto row = static_cast<size_t>(index.row());
+    if (row >= m_list.lines().size())
+        return {};
+    const BrowseLine& line = m_list.lines()[row];
+    if (index.column() == 0)
+        return role == Qt::DisplayRole && index.row() == m_list.BrowseRow
+                   ? QVariant(QString(QChar(0x25B8)))
+                   : QVariant();
+    const auto column = static_cast<size_t>(index.column() - 1);
+    const bool isRecord = line.kind == BrowseLine::Kind::Record;
+    switch (role) {
+        case Qt::DisplayRole:
+            return textAt(line, index.column() - 1);
+        case Qt::TextAlignmentRole:
+            return QVariant(isRecord ? m_columns[column].alignment | Qt::AlignVCenter
+                                     : Qt::AlignLeft | Qt::AlignVCenter);
+        case Qt::ForegroundRole:
+            return isRecord ? QVariant()
+                            : QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        default:
+            return {};
+    }
+}
+
+QVariant BrowsePage::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || section == 0)
+        return {};
+    const GridColumn& column = m_columns[static_cast<size_t>(section - 1)];
+    if (role == Qt::DisplayRole)
+        return column.heading;
+    if (role == Qt::TextAlignmentRole)
+        return QVariant(column.alignment | Qt::AlignVCenter);
+    return {};
+}
