@@ -4,7 +4,7 @@ packages="build-essential cmake ninja-build ccache pkg-config
     qt6-base-dev libgl-dev libxkbcommon-dev
     libsqlite3-dev libzip-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    fonts-liberation"
+    fonts-liberation poppler-utils"
 
 # Installs what is missing; asks for nothing when all is there.
 install_packages() {

@@ -1,0 +1,193 @@
+#include "screens/report/page_sink.h"
+
+#include "core/number_format.h"
+#include "screens/report/totals.h"
+
+namespace {
+
+constexpr int rowHeight = 250;
+constexpr int bottomReserve = 1200;  // the foot strip, and what reports write above it
+constexpr int belowTitle = 120;
+
+bool isNumber(const ReportColumn& column)
+{
+    return !column.mask.isEmpty();
+}
+
+}  // namespace
+
+QString orientationFor(const PageDocument& pages, int width)
+{
+    const PageMargins usual;
+    return width > pages.paper().width - usual.left - usual.right ? "L" : "P";
+}
+
+QString cellText(const storage::Value& value, const QString& mask)
+{
+    if (value.isNull() || mask.isEmpty() || value.as<QString>())
+        return value.toString();
+    return dnFormat(value.toDouble(), mask);
+}
+
+void PageSink::begin(const ReportPlan& plan)
+{
+    m_plan = plan;
+    m_width = 0;
+    for (const ReportColumn& column : plan.columns)
+        m_width += column.width;
+    // Too wide even so: all columns give way alike.
+    const int room = m_pages.pageWidth() - m_pages.margins.left - m_pages.margins.right;
+    const int asked = std::max(m_width, 1);
+    m_widths.clear();
+    for (const ReportColumn& column : plan.columns)
+        m_widths.push_back(asked > room ? column.width * room / asked : column.width);
+    m_width = std::min(m_width, room);
+    m_left = m_pages.margins.left + (room - m_width) / 2;
+    m_pageSums.assign(plan.columns.size(), {});
+    beginPage();
+}
+
+int PageSink::bottom() const
+{
+    const bool hasPageTotal = !m_plan.pageTotalCaption.isEmpty();
+    return m_pages.pageHeight() - bottomReserve - (hasPageTotal ? rowHeight : 0);
+}
+
+void PageSink::beginPage()
+{
+    const int number = m_plan.firstPage + m_pages.currentPage() - 1;
+    dnReportPageFoot(
+        m_pages,
+        {.moduleName = m_plan.moduleName, .reportName = m_plan.title, .pageOverride = number});
+    m_y = writeReportTitle(m_pages, m_plan.title, m_plan.headingLines) + belowTitle;
+    int headRows = 1;
+    for (const ReportColumn& column : m_plan.columns)
+        if (column.width > 0 && column.heading.contains('\n'))
+            headRows = 2;
+    int x = m_left;
+    for (size_t column = 0; column < m_widths.size(); ++column) {
+        if (m_widths[column] > 0)
+            dnReportColumnHead(m_pages, {x, m_y, m_widths[column], headRows * rowHeight},
+                               m_plan.columns[column].heading);
+        x += m_widths[column];
+    }
+    m_y += headRows * rowHeight;
+}
+
+void PageSink::makeRoom(int depth)
+{
+    if (m_y + depth <= bottom())
+        return;
+    if (!m_plan.pageTotalCaption.isEmpty()) {
+        drawTotal(m_plan.pageTotalCaption, m_pageSums);
+        m_pageSums.assign(m_plan.columns.size(), {});
+    }
+    m_pages.newPage();
+    beginPage();
+    for (const QString& open : m_heads) {
+        if (open.isEmpty())
+            continue;
+        dnReportBar(m_pages, {m_left, m_y, m_width, rowHeight}, open + " (continued)");
+        m_y += rowHeight;
+    }
+}
+
+QStringList PageSink::textsOfCells(const ReportCells& cells) const
+{
+    QStringList texts;
+    for (size_t column = 0; column < m_plan.columns.size(); ++column) {
+        const storage::Value value = column < cells.size() ? cells[column] : storage::Value();
+        texts.append(cellText(value, m_plan.columns[column].mask));
+    }
+    return texts;
+}
+
+int PageSink::depthOf(const QStringList& texts) const
+{
+    int depth = rowHeight;
+    for (size_t column = 0; column < m_widths.size(); ++column)
+        if (m_plan.columns[column].wraps)
+            depth = std::max(
+                depth, reportCellDepth({0, 0, m_widths[column], rowHeight},
+                                       texts[static_cast<qsizetype>(column)], {.wraps = true}));
+    return depth;
+}
+
+void PageSink::head(size_t level, const QString& text)
+{
+    while (m_heads.size() > static_cast<qsizetype>(level))
+        m_heads.removeLast();
+    makeRoom(2 * rowHeight);  // never alone at the foot of a page
+    while (m_heads.size() < static_cast<qsizetype>(level))
+        m_heads.append(QString());
+    m_heads.append(text);
+    dnReportBar(m_pages, {m_left, m_y, m_width, rowHeight}, text);
+    m_y += rowHeight;
+}
+
+void PageSink::line(const ReportCells& cells)
+{
+    const QStringList texts = textsOfCells(cells);
+    const int depth = depthOf(texts);
+    makeRoom(depth);
+    if (!m_plan.pageTotalCaption.isEmpty())
+        addTo(m_pageSums, cells, m_plan);
+    int x = m_left;
+    for (size_t column = 0; column < m_widths.size(); ++column) {
+        const ReportColumn& how = m_plan.columns[column];
+        CellFlags flags{.middle = !how.wraps, .wraps = how.wraps};
+        if (isNumber(how))
+            flags.alignment = TextAlignment::Right;
+        if (how.isCentred)
+            flags.alignment = TextAlignment::Centre;
+        if (m_widths[column] > 0)
+            dnReportCell(m_pages, {x, m_y, m_widths[column], depth},
+                         texts[static_cast<qsizetype>(column)], flags);
+        x += m_widths[column];
+    }
+    m_y += depth;
+}
+
+void PageSink::drawTotal(const QString& caption, const ReportCells& sums)
+{
+    size_t firstSum = 0;
+    int captionWidth = 0;
+    while (firstSum < m_widths.size() && !m_plan.columns[firstSum].isTotalled)
+        captionWidth += m_widths[firstSum++];
+    int x = m_left;
+    const CellFlags heading{.middle = true, .bold = true, .grey = true};
+    if (captionWidth > 0)
+        dnReportCell(m_pages, {x, m_y, captionWidth, rowHeight}, caption, heading);
+    x += captionWidth;
+    const QStringList texts = textsOfCells(sums);
+    CellFlags flags = heading;
+    flags.alignment = TextAlignment::Right;
+    for (size_t column = firstSum; column < m_widths.size(); ++column) {
+        if (m_widths[column] > 0)
+            dnReportCell(m_pages, {x, m_y, m_widths[column], rowHeight},
+                         texts[static_cast<qsizetype>(column)], flags);
+        x += m_widths[column];
+    }
+    m_y += rowHeight;
+}
+
+void PageSink::total(size_t level, const QString& caption, const ReportCells& sums)
+{
+    makeRoom(rowHeight);
+    drawTotal(caption, sums);
+    while (m_heads.size() > static_cast<qsizetype>(level))
+        m_heads.removeLast();
+}
+
+void PageSink::note(const QString& text)
+{
+    makeRoom(rowHeight);
+    dnReportCell(m_pages, {m_left, m_y, m_width, rowHeight}, text, {.middle = true});
+    m_y += rowHeight;
+}
+
+void PageSink::end(bool isComplete)
+{
+    if (isComplete && !m_plan.pageTotalCaption.isEmpty())
+        drawTotal(m_plan.pageTotalCaption, m_pageSums);
+}
