@@ -7,6 +7,7 @@
 
 void registerStoreBenchmarks();
 void registerContentionBenchmarks();
+void registerSearchBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 int main(int argc, char** argv)
@@ -22,5 +23,6 @@ int main(int argc, char** argv)
     benchmark::Initialize(&optionCount, options);
     registerStoreBenchmarks();
     registerContentionBenchmarks();
+    registerSearchBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }

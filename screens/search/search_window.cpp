@@ -16,6 +16,8 @@
 namespace {
 
 constexpr int leastRowCount = 12;
+constexpr int twipsPerInch = 1440;
+constexpr int narrowColumn = 2000;  // twips
 
 Qt::Alignment alignmentOf(int code)
 {
@@ -100,7 +102,7 @@ QLayout* frmDNSearch::instructions()
     byColumn->addWidget(m_columnKeys, 1);
     layout->addLayout(byColumn);
     m_columnKeys->setForegroundRole(QPalette::PlaceholderText);
-    m_text->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    m_text->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     m_text->setBackgroundRole(QPalette::Base);
     m_text->setForegroundRole(QPalette::Text);
     m_text->setAutoFillBackground(true);
@@ -130,12 +132,27 @@ QLayout* frmDNSearch::buttons()
     return layout;
 }
 
+// The told widths are those of another font: a narrow column, which holds a code or a date, is
+// widened where the page would cut it. Long texts may be cut.
+int frmDNSearch::widthOf(int column) const
+{
+    const int told = m_search.columns()[static_cast<size_t>(column)].width;
+    if (told == 0 || told > narrowColumn)
+        return told;
+    const QFontMetrics metrics = m_grid->view()->fontMetrics();
+    int widest = 0;
+    for (const BrowseLine& line : m_search.list().lines())
+        widest = std::max(widest, metrics.horizontalAdvance(line.cells.value(column) + "0"));
+    return std::max(told, (widest + metrics.height()) * twipsPerInch / logicalDpiX());
+}
+
 void frmDNSearch::showColumns()
 {
     std::vector<GridColumn> columns;
     QStringList keys;
     for (const SearchColumn& column : m_search.columns()) {
-        columns.push_back({column.heading.trimmed(), column.width, alignmentOf(column.alignment)});
+        const int width = widthOf(static_cast<int>(columns.size()));
+        columns.push_back({column.heading.trimmed(), width, alignmentOf(column.alignment)});
         if (columns.size() > 1 && column.isUsed() && dnNotBlank(column.index))
             keys.append(QString("Alt+%1: %2").arg(columns.size()).arg(column.heading));
     }

@@ -36,6 +36,7 @@ private:
     void select();
     void selectRecord();
     void searchBy(int column);
+    int widthOf(int column) const;
     void showColumns();
     void showText();
 
