@@ -1,14 +1,44 @@
 #include "app/screen_table.h"
 
+#include "cost/gl_codes.h"
+#include "cost/invoice_codes.h"
+#include "inventory/branches.h"
+#include "purchasing/code_lists.h"
+#include "purchasing/document_texts.h"
+#include "purchasing/terms_codes.h"
+#include "screens/browse/browse_window.h"
+#include "screens/job_sites.h"
 #include "screens/network_settings.h"
 
 namespace {
 
-const ScreenFactory screens[] = {
-    {"frmNETSET",
-     [](const ScreenContext& context) -> QWidget* {
-         return new frmNETSET(context.session, context.mode);
-     }},
+template <BrowseSpec (*spec)()>
+QWidget* browse(const ScreenContext& context)
+{
+    return new BrowseWindow(spec(), context);
+}
+
+QWidget* networkSettings(const ScreenContext& context)
+{
+    return new frmNETSET(context.session, context.mode);
+}
+
+constexpr ScreenFactory screens[] = {
+    {"frmCCBQSHIP01", browse<frmCCBQSHIP01>},
+    {"frmDBPBrowse", browse<frmDBPBrowse>},
+    {"frmNETSET", networkSettings},
+    {"frmVEXGLC01", browse<frmVEXGLC01>},
+    {"frmVEXIC01", browse<frmVEXIC01>},
+    {"frmVEXILC01", browse<frmVEXILC01>},
+    {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
+    {"frmVEXINVSC01", browse<frmVEXINVSC01>},
+    {"frmVEXMC01", browse<frmVEXMC01>},
+    {"frmVEXRT01", browse<frmVEXRT01>},
+    {"frmVEXSHIPTO01", browse<frmVEXSHIPTO01>},
+    {"frmVEXSHIPVIA01", browse<frmVEXSHIPVIA01>},
+    {"frmVEXTRMC01", browse<frmVEXTRMC01>},
+    {"frmVEXWHODIDIT01", browse<frmVEXWHODIDIT01>},
+    {"frmZORJS01", browse<frmZORJS01>},
 };
 
 }  // namespace

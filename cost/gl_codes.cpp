@@ -1,5 +1,8 @@
 #include "cost/gl_codes.h"
 
+#include "screens/browse/browse_session.h"
+#include "screens/search/job_searches.h"
+
 namespace {
 
 QString checkCode(const Entry& entry)
@@ -18,6 +21,12 @@ QString deleteQuestion(storage::Recordset& rows)
            '?';
 }
 
+QString search(const BrowseSession& screen)
+{
+    return zorSearchGLCode(screen.session().JobSitePath,
+                           static_cast<qint16>(screen.parentKey("CONO").toInt()));
+}
+
 }  // namespace
 
 BrowseSpec frmVEXGLC01()
@@ -27,7 +36,7 @@ BrowseSpec frmVEXGLC01()
         .caption = "General Ledger Codes",
         .table = "GLCODES",
         .index = "GLCODES",
-        .parent = {BrowseParent::Kind::Company, {"CONO"}},
+        .parent = companyParent(),
         .columns = {{.field = "GLCODE",
                      .length = 10,
                      .heading = "G/L Code",
@@ -41,7 +50,7 @@ BrowseSpec frmVEXGLC01()
                      .entry = "txtDESC",
                      .check = required("Desc", "Description is Empty.")}},
         .deleteQuestion = deleteQuestion,
-        .printWindow = "Print G/L Codes",
-        .printTitle = "List of G/L Codes",
+        .search = search,
+        .print = {.window = "Print G/L Codes", .title = "List of G/L Codes"},
     };
 }

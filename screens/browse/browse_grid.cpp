@@ -252,6 +252,14 @@ void BrowseGrid::refresh()
     m_positionDue->start();
 }
 
+QSize BrowseGrid::sizeHint() const
+{
+    constexpr int rows = 14;
+    const int height = m_view->verticalHeader()->defaultSectionSize() * rows +
+                       m_view->horizontalHeader()->sizeHint().height() + 2 * m_view->frameWidth();
+    return {QWidget::sizeHint().width(), height};
+}
+
 void BrowseGrid::takeFocus()
 {
     m_view->setFocus(Qt::OtherFocusReason);

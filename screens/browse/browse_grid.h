@@ -65,6 +65,8 @@ public:
     // stands for "cmdDNB". The caller lays the widget out.
     QWidget* moveButtons(const QString& prefix = "cmdDNB");
 
+    QSize sizeHint() const override;
+
     QTableView* view() const { return m_view; }
     void takeFocus();
     // Where a cell lies in `view()->viewport()`; fields are laid over it there.

@@ -1,18 +1,18 @@
 #include "screens/browse/browse_session.h"
 
+#include "core/number_format.h"
 #include "core/storage/storage_error.h"
 #include "core/tags.h"
 #include "core/text.h"
+#include "core/window_registry.h"
+#include "multiuser/users.h"
 
 using storage::ErrorNumber;
 using storage::StorageError;
 
 QString Entry::operator[](schema::FieldName field) const
 {
-    for (int i = 0; i < m_session.entryCount(); ++i)
-        if (m_session.entryColumn(i).field.number() == field.number())
-            return m_session.text(i);
-    return {};
+    return m_session.entryText(field);
 }
 
 bool Entry::isBlank(schema::FieldName field) const
@@ -26,6 +26,10 @@ bool Entry::isAdding() const
 const std::vector<KeyField>& Entry::parent() const
 {
     return m_session.list().source().parent;
+}
+QString Entry::index() const
+{
+    return m_session.list().source().index;
 }
 const Session& Entry::session() const
 {
@@ -57,6 +61,26 @@ EntryCheck required(schema::FieldName field, const QString& text)
     return [field, text](const Entry& entry) { return entry.isBlank(field) ? text : QString(); };
 }
 
+EntryCheck unusedCode(schema::FieldName field, const QString& text)
+{
+    return [field, text](const Entry& entry) {
+        return entry.isTakenInParent(entry.index(), {{field, entry[field]}}) ? text : QString();
+    };
+}
+
+std::function<QString(storage::Recordset&)> askToDelete(const QString& what,
+                                                        std::vector<schema::FieldName> fields,
+                                                        const QString& separator,
+                                                        const QString& end)
+{
+    return [=](storage::Recordset& rows) {
+        QStringList values;
+        for (const schema::FieldName field : fields)
+            values.append(trimmedTextOf(rows[field]));
+        return "OK to Delete " + what + ' ' + values.join(separator) + end;
+    };
+}
+
 EntryCheck inOrder(std::vector<EntryCheck> checks)
 {
     return [checks = std::move(checks)](const Entry& entry) {
@@ -65,6 +89,23 @@ EntryCheck inOrder(std::vector<EntryCheck> checks)
                 return refusal;
         return QString();
     };
+}
+
+BrowseParent companyParent()
+{
+    return {BrowseParent::Kind::Company, {"CONO"}, "Invalid Company Number Detected."};
+}
+
+BrowseParent companyAndJobParent()
+{
+    return {BrowseParent::Kind::CompanyAndJob,
+            {"CONO", "JOBNO"},
+            "Invalid Company/Job Number Pair Detected."};
+}
+
+BrowseParent branchParent()
+{
+    return {BrowseParent::Kind::Branch, {"ILCTAG"}, "Select a Valid Branch Code"};
 }
 
 BrowseSession::BrowseSession(BrowseSpec spec, Session session)
@@ -91,11 +132,34 @@ void BrowseSession::open()
                  .table = m_spec.table,
                  .index = m_spec.index,
                  .parent = {},
-                 .accepts = {}},
+                 .accepts = m_spec.accepts},
                 "wksVEX");
+    if (opensDetail())
+        m_winTag = dnSetWINTAG(m_session.UserSettingsPath);
     m_hasParent = m_spec.parent.kind == BrowseParent::Kind::None;
     if (m_hasParent)
         m_list.fill({});
+}
+
+void BrowseSession::close()
+{
+    if (m_winTag != 0)
+        dnDELWINTAG(m_session.UserSettingsPath, m_winTag);
+    m_winTag = 0;
+    m_list.close();
+}
+
+BrowseSession::~BrowseSession()
+{
+    close();
+}
+
+storage::Value BrowseSession::parentKey(schema::FieldName field) const
+{
+    for (const KeyField& key : m_list.source().parent)
+        if (key.field.number() == field.number())
+            return key.key;
+    return {};
 }
 
 void BrowseSession::setParent(const std::vector<KeyField>& parent)
@@ -118,18 +182,19 @@ QStringList BrowseSession::cellsOf(storage::Recordset& rows) const
 {
     QStringList cells;
     for (const BrowseColumn& column : m_spec.columns)
-        cells.append(trimmedTextOf(rows[column.field]));
+        if (column.shows)
+            cells.append(column.shows(*this, rows));
+        else if (column.format[0] != '\0')
+            cells.append(dnFormat(dnNullCheck(rows[column.field]).toDouble(), column.format));
+        else
+            cells.append(trimmedTextOf(rows[column.field]));
     return cells;
 }
 
 bool BrowseSession::activeRecordTest(bool needsRecord)
 {
     if (!m_hasParent) {
-        const bool pair = m_spec.parent.kind == BrowseParent::Kind::CompanyAndJob;
-        const bool branch = m_spec.parent.kind == BrowseParent::Kind::Branch;
-        showCritical("Error", branch ? "Select a Valid Branch Code"
-                              : pair ? "Invalid Company/Job Number Pair Detected."
-                                     : "Invalid Company Number Detected.");
+        showCritical("Error", m_spec.parent.missing);
         return false;
     }
     if (!needsRecord || m_list.isOnRecord())
@@ -137,6 +202,11 @@ bool BrowseSession::activeRecordTest(bool needsRecord)
     showCritical("No Active Record.",
                  "Highlighted Browse Bar Must be on a Current Record to Continue.");
     return false;
+}
+
+bool BrowseSession::mayChange() const
+{
+    return m_spec.editRight[0] == '\0' || dnOK2Access(m_spec.editRight, m_session.UserName, true);
 }
 
 void BrowseSession::act()
@@ -154,16 +224,20 @@ void BrowseSession::beginEntry(const QString& mode, int row)
 
 void BrowseSession::add()
 {
-    if (!isBrowsing() || !activeRecordTest(false))
+    if (!isBrowsing() || !activeRecordTest(false) || !mayChange())
         return;
+    if (opensDetail())
+        return openDetail("A");
     m_texts = QStringList(entryCount(), QString());
     beginEntry("A", m_list.makeEntryRow());
 }
 
 void BrowseSession::edit()
 {
-    if (!isBrowsing() || !activeRecordTest(true) || !m_list.goToCurrent())
+    if (!isBrowsing() || !activeRecordTest(true) || !mayChange() || !m_list.goToCurrent())
         return;
+    if (opensDetail())
+        return openDetail("E");
     m_texts.clear();
     for (int i = 0; i < entryCount(); ++i)
         m_texts.append(trimmedTextOf(m_list.rows()[entryColumn(i).field]));
@@ -195,10 +269,43 @@ void BrowseSession::setText(int entry, const QString& text)
     m_texts[entry] = entryColumn(entry).upperCase ? text.toUpper() : text;
 }
 
+void BrowseSession::setText(schema::FieldName field, const QString& text)
+{
+    for (int i = 0; i < entryCount(); ++i)
+        if (entryColumn(i).field.number() == field.number())
+            setText(i, text);
+}
+
+QString BrowseSession::entryText(schema::FieldName field) const
+{
+    for (int i = 0; i < entryCount(); ++i)
+        if (entryColumn(i).field.number() == field.number())
+            return m_texts.value(i);
+    return {};
+}
+
+// What the screen does not want, then what the column cannot hold.
+QString BrowseSession::refusalOf(int entry)
+{
+    const BrowseColumn& column = entryColumn(entry);
+    if (column.tidy)
+        setText(entry, column.tidy(m_texts[entry]));
+    const QString refusal = column.check ? column.check(Entry(*this)) : QString();
+    if (!refusal.isEmpty())
+        return refusal;
+    const storage::TableDefinition& table = m_list.rows().definition();
+    const auto position = static_cast<size_t>(table.fieldPosition(column.field));
+    try {
+        storage::fitted(table.fields[position], valueOf(column, m_texts[entry]));
+        return {};
+    } catch (const StorageError& error) {
+        return error.description();
+    }
+}
+
 void BrowseSession::validate(int entry)
 {
-    const EntryCheck& check = entryColumn(entry).check;
-    const QString refusal = check ? check(Entry(*this)) : QString();
+    const QString refusal = refusalOf(entry);
     if (refusal.isEmpty())
         m_errors.ClearField(entry + 1);
     else
@@ -222,8 +329,7 @@ bool BrowseSession::refuseAll()
 bool BrowseSession::refuseFirst()
 {
     for (int i = 0; i < entryCount(); ++i) {
-        const EntryCheck& check = entryColumn(i).check;
-        const QString refusal = check ? check(Entry(*this)) : QString();
+        const QString refusal = refusalOf(i);
         if (refusal.isEmpty())
             continue;
         m_fieldToFocus = i;
@@ -321,8 +427,10 @@ bool BrowseSession::write()
 
 void BrowseSession::remove()
 {
-    if (!isBrowsing() || !activeRecordTest(true) || !m_list.goToCurrent())
+    if (!isBrowsing() || !activeRecordTest(true) || !mayChange() || !m_list.goToCurrent())
         return;
+    if (opensDetail())
+        return openDetail("D");
     storage::Recordset& rows = m_list.rows();
     if (m_spec.deleteTest) {
         const QString refusal = m_spec.deleteTest(*this, rows);
@@ -353,4 +461,39 @@ void BrowseSession::search()
 {
     if (isBrowsing() && m_spec.search && activeRecordTest(false))
         m_list.show(m_spec.search(*this));
+}
+
+void BrowseSession::run(const BrowseCommand& command)
+{
+    if (isBrowsing() == command.inEntryMode)
+        return;
+    if (command.needsRecord && (!activeRecordTest(true) || !m_list.goToCurrent()))
+        return;
+    command.run(*this);
+}
+
+void BrowseSession::openDetail(const QString& mode)
+{
+    const qint32 tag = mode == "A" ? 0 : intOf(m_list.rows().fieldNamed(m_spec.detail.tagField));
+    dnSetHOTTAG(m_session.UserSettingsPath, m_winTag, tag);
+    m_openedDetail = true;
+    m_spec.detail.open(*this, mode, tag, m_winTag);
+}
+
+void BrowseSession::comeToFront()
+{
+    if (!m_openedDetail || !isBrowsing() ||
+        dnGetWINACTION(m_session.UserSettingsPath, m_winTag) != 1)
+        return;
+    const qint32 tag = dnGetHOTTAG(m_session.UserSettingsPath, m_winTag);
+    QString place = noBookmark;
+    if (tag == hotTagKeepPage) {
+        place = m_list.BrowseTop;
+    } else if (tag != hotTagNone) {
+        storage::Recordset& rows = m_list.rows();
+        rows.Index(m_spec.detail.tagIndex);
+        place = rows.Seek("=", tag) ? rows.Bookmark() : m_list.BrowseFirst;
+    }
+    m_list.BrowseCurrent = place;
+    m_list.rebuild();
 }

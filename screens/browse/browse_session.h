@@ -18,6 +18,9 @@ class BrowseSession
 {
 public:
     BrowseSession(BrowseSpec spec, Session session);
+    ~BrowseSession();
+    BrowseSession(const BrowseSession&) = delete;
+    BrowseSession& operator=(const BrowseSession&) = delete;
 
     const BrowseSpec& spec() const { return m_spec; }
     const Session& session() const { return m_session; }
@@ -26,11 +29,13 @@ public:
 
     // Load and unload step. Without a parent key the list is full at once.
     void open();
-    void close() { m_list.close(); }
+    void close();
 
     // The parent was chosen; an empty one leaves no list. Nothing happens in entry mode.
     void setParent(const std::vector<KeyField>& parent);
     bool hasParent() const { return m_hasParent; }
+    // A key of the parent in hand; null without one.
+    storage::Value parentKey(schema::FieldName field) const;
 
     QString EditMode = " ";
     bool isBrowsing() const { return EditMode == " "; }
@@ -41,6 +46,10 @@ public:
     void edit();
     void remove();
     void search();
+    void print();
+    void run(const BrowseCommand& command);
+    // The screen is in front again: shows what a detail screen has left.
+    void comeToFront();
     // In entry mode. True when the screen is browsing again.
     bool update();
     void cancel();
@@ -53,7 +62,9 @@ public:
     const BrowseColumn& entryColumn(int entry) const;
     const QString& text(int entry) const { return m_texts[entry]; }
     void setText(int entry, const QString& text);
-    // Validates a field that is left; its error, or the lack of one, stands in `errors`.
+    void setText(schema::FieldName field, const QString& text);
+    QString entryText(schema::FieldName field) const;  // empty for a field that is not typed
+    // Tidies and validates a field that is left; its error, or the lack of one, stands in `errors`.
     void validate(int entry);
     const ErrorCollector& errors() const { return m_errors; }
     // The entry field to focus, from 0.
@@ -63,7 +74,11 @@ private:
     friend class Entry;
 
     QString folder() const;
+    bool mayChange() const;
     bool activeRecordTest(bool needsRecord);
+    bool opensDetail() const { return m_spec.detail.tagField[0] != '\0'; }
+    void openDetail(const QString& mode);
+    QString refusalOf(int entry);
     void beginEntry(const QString& mode, int row);
     void leaveEntry();
     bool refuseFirst();
@@ -78,6 +93,8 @@ private:
     BrowseList m_list;
     bool m_hasParent = false;
     bool m_editedExisting = false;
+    qint16 m_winTag = 0;  // in the window registry, of a list with detail screens
+    bool m_openedDetail = false;
 
     std::vector<size_t> m_entryColumns;
     QStringList m_texts;

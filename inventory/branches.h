@@ -1,0 +1,8 @@
+// The branches that keep an inventory, and each branch's bins and series codes.
+#pragma once
+
+#include "screens/browse/browse_spec.h"
+
+BrowseSpec frmVEXILC01();
+BrowseSpec frmVEXINVBIN01();
+BrowseSpec frmVEXINVSC01();

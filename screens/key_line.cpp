@@ -1,0 +1,18 @@
+#include "screens/key_line.h"
+
+KeyLine::KeyLine()
+{
+    setObjectName("lblKeys");
+    setTextFormat(Qt::RichText);
+    setForegroundRole(QPalette::PlaceholderText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void KeyLine::setKeys(const QList<std::pair<QString, QString>>& keys)
+{
+    QStringList parts;
+    for (const auto& [key, meaning] : keys)
+        parts.append("<b>" + key.toHtmlEscaped() + "</b>&nbsp;" + meaning.toHtmlEscaped());
+    parts.append("<b>F1</b>&nbsp;Help");
+    setText(parts.join("&nbsp;&nbsp; "));
+}
