@@ -76,6 +76,11 @@ QPushButton* SmallDialog::addClosingButton(const QString& name, const QString& c
     return addButton(name, caption, [this, result] { done(result); });
 }
 
+void SmallDialog::centreButtons()
+{
+    m_buttons->addStretch();
+}
+
 void SmallDialog::enterTakes(QPushButton* button)
 {
     button->setDefault(true);

@@ -31,6 +31,8 @@ public:
                            std::function<void()> command);
     QPushButton* addClosingButton(const QString& name, const QString& caption,
                                   int result = Rejected);
+    // In the middle instead of at the right; after the last button.
+    void centreButtons();
     void enterTakes(QPushButton* button);
     void escTakes(QPushButton* button) { m_escape = button; }
 

@@ -1,0 +1,14 @@
+#include "screens/selectors/job_date_selector.h"
+
+#include <QFormLayout>
+
+tqCoJobDateRange::tqCoJobDateRange(const QString& name)
+    : tqCoJobNumber(name), m_dates(new DateRangeFields(*rows(), this))
+{
+}
+
+void tqCoJobDateRange::takeTyped()
+{
+    tqCoJobNumber::takeTyped();
+    m_dates->check();
+}

@@ -1,0 +1,118 @@
+#include "screens/selectors/job_directory.h"
+
+#include <limits>
+
+#include "core/keyed_access.h"
+#include "core/locators.h"
+#include "core/storage/file_paths.h"
+#include "core/storage/storage_error.h"
+#include "core/text.h"
+
+namespace {
+
+OpenTable openMain(const QString& folder, const QString& table)
+{
+    return openTable(storage::joinPath(folder, "MAIN.mdb"), table);
+}
+
+// A field of the record that a bookmark names, trimmed.
+QString fieldAt(const QString& folder, const QString& table, schema::FieldName field,
+                const QString& bookmark)
+{
+    if (dnIsBlank(folder) || dnIsBlank(bookmark))
+        return {};
+    OpenTable open = openMain(folder, table);
+    try {
+        open.rows.Bookmark(bookmark);
+        return trimmedTextOf(open.rows[field]);
+    } catch (const storage::StorageError& error) {
+        if (error.errorNumber() != storage::ErrorNumber::RecordDeleted)
+            throw;
+        return {};
+    }
+}
+
+bool isCompanyNumber(int CONO)
+{
+    return CONO > 0 && CONO <= std::numeric_limits<qint16>::max();
+}
+
+}  // namespace
+
+std::optional<QString> JobDirectory::companyName(int CONO) const
+{
+    if (dnIsBlank(m_folder) || !isCompanyNumber(CONO))
+        return {};
+    OpenTable companies = openMain(m_folder, "COLIST");
+    companies.rows.Index("CONO");
+    if (!companies.rows.Seek("=", CONO))
+        return {};
+    return trimmedTextOf(companies.rows["CONAME"]);
+}
+
+std::optional<QString> JobDirectory::jobName(int CONO, const QString& JOBNO) const
+{
+    if (dnIsBlank(m_folder) || dnIsBlank(JOBNO) || !isCompanyNumber(CONO))
+        return {};
+    OpenTable jobs = openMain(m_folder, "JOBLIST");
+    jobs.rows.Index("JOBLIST");
+    if (!jobs.rows.Seek("=", CONO, JOBNO))
+        return {};
+    return trimmedTextOf(jobs.rows["JOBNAME"]);
+}
+
+std::vector<CodeChoice> JobDirectory::companies() const
+{
+    std::vector<CodeChoice> found;
+    if (dnIsBlank(m_folder))
+        return found;
+    OpenTable companies = openMain(m_folder, "COLIST");
+    companies.rows.Index("CONO");
+    if (companies.rows.RecordCount() == 0)
+        return found;
+    for (bool more = companies.rows.MoveFirst(); more; more = companies.rows.MoveNext())
+        found.push_back(
+            {trimmedTextOf(companies.rows["CONO"]), trimmedTextOf(companies.rows["CONAME"])});
+    return found;
+}
+
+std::vector<CodeChoice> JobDirectory::jobs(int CONO) const
+{
+    std::vector<CodeChoice> found;
+    if (dnIsBlank(m_folder) || !isCompanyNumber(CONO))
+        return found;
+    OpenTable jobs = openMain(m_folder, "JOBLIST");
+    jobs.rows.Index("JOBLIST");
+    for (bool more = jobs.rows.Seek("=", CONO); more && dnInbounds(jobs.rows, {{"CONO", CONO}});
+         more = jobs.rows.MoveNext())
+        found.push_back({trimmedTextOf(jobs.rows["JOBNO"]), trimmedTextOf(jobs.rows["JOBNAME"])});
+    return found;
+}
+
+QString JobDirectory::companyAt(const QString& bookmark) const
+{
+    return fieldAt(m_folder, "COLIST", "CONO", bookmark);
+}
+
+QString JobDirectory::jobAt(const QString& bookmark) const
+{
+    return fieldAt(m_folder, "JOBLIST", "JOBNO", bookmark);
+}
+
+JobDirectory::JobNumberForm JobDirectory::jobNumberForm() const
+{
+    JobNumberForm form;
+    const QString file = storage::joinPath(m_folder, "ZORSYS.mdb");
+    if (dnIsBlank(m_folder) || !storage::pathExists(file))
+        return form;
+    OpenTable settings = openTable(file, "SYSSETTINGS");
+    if (settings.rows.RecordCount() == 0)
+        return form;
+    settings.rows.MoveFirst();
+    const int size = intOf(settings.rows["JOBNOSIZE"]);
+    if (size >= 1 && size <= form.size)
+        form.size = size;
+    if (trimmedTextOf(settings.rows["JOBNOTYPE"]).toUpper() == "N")
+        form.type = "N";
+    return form;
+}
