@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <optional>
 
+#include "core/system.h"
+
 namespace {
 
 struct DateParts
@@ -105,4 +107,57 @@ QString dnDateKey(const QString& text)
 {
     int pivot = defaultDatePivot;
     return dnDateKey(text, pivot);
+}
+
+namespace {
+
+// Of a date in the long form; null when the calendar has no such day.
+QDate dayOf(const QString& longForm)
+{
+    return QDate::fromString(longForm, "MM/dd/yyyy");
+}
+
+QString ordinal(int day)
+{
+    const bool isTeen = day >= 11 && day <= 13;
+    static const char* const suffixes[] = {"th", "st", "nd", "rd"};
+    return QString::number(day) + (isTeen || day % 10 > 3 ? "th" : suffixes[day % 10]);
+}
+
+}  // namespace
+
+QString dnLongDate(const QString& date)
+{
+    static const char* const days[] = {"Monday, ", "Tuesday, ",  "Wednesday, ", "Thursday, ",
+                                       "Friday, ", "Saturday, ", "Sunday, "};
+    static const char* const months[] = {"January ",   "February ", "March ",    "April ",
+                                         "May ",       "June ",     "July ",     "August ",
+                                         "September ", "October ",  "November ", "December "};
+    const QDate day = dayOf(dnFixDate(date));
+    if (!day.isValid())
+        return "Invalid Date: " + date;
+    return days[day.dayOfWeek() - 1] + QString(months[day.month() - 1]) + ordinal(day.day()) +
+           ", " + QString::number(day.year());
+}
+
+QString dnPEDateRange(const QString& peDate, const QString& date2, bool showsPeriodEnds)
+{
+    constexpr int daysBefore = 6;
+    const auto fixedOr = [](const QString& text) {
+        const QString fixed = dnFixDate(text);
+        return fixed.trimmed().isEmpty() ? text : fixed;
+    };
+    const QString first = fixedOr(peDate);
+    const QString last = fixedOr(date2);
+    const QDate end = dayOf(first);
+    const QString begin = end.isValid() ? end.addDays(-daysBefore).toString("MM/dd/yyyy") : first;
+    QString text = "From " + begin + " to " + last;
+    if (showsPeriodEnds && first != last)
+        text += "  (PE " + first + " to PE " + last + ")";
+    return text;
+}
+
+QString dnNowStamp()
+{
+    return System::current().now().toString("MM/dd/yyyy  hh:mm AP");
 }

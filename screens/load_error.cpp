@@ -7,7 +7,7 @@ namespace {
 
 QPushButton* exitButtonOf(const QWidget* screen)
 {
-    for (const char* name : {"cmdExit", "cmdCancel", "cmdClose", "cmdOK"})
+    for (const char* name : {"cmdExit", "CmdExit", "cmdCancel", "cmdClose", "cmdOK"})
         if (auto* button = screen->findChild<QPushButton*>(name))
             return button;
     return nullptr;

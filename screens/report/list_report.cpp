@@ -21,7 +21,7 @@ void runListReport(ReportRun& run, const ReportPlan& plan, const ReportWalk& wal
         return;
     PageSink paper(run.pages);
     std::vector<ReportSink*> sinks = {&paper};
-    for (const auto& further : run.furtherSinks)
+    for (const auto& further : run.furtherSinks())
         sinks.push_back(further.get());
     ReportLines lines(plan, run, std::move(sinks));
     walk(run, lines);

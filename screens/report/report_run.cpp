@@ -4,7 +4,7 @@
 
 #include "core/messages.h"
 #include "core/number_format.h"
-#include "core/storage/storage_error.h"
+#include "core/storage/file_paths.h"
 #include "screens/command_runner.h"
 #include "screens/report/report_page.h"
 #include "screens/system_dialogs.h"
@@ -24,6 +24,8 @@ QString count(int number)
 {
     return number == 0 ? QString("0") : dnFormat(number, "###,###,###");
 }
+
+WorkbookMaker workbookMaker = nullptr;
 
 int orDefault(int margin)
 {
@@ -64,12 +66,33 @@ void ReportRun::begin()
     m_rowCount = 0;
     m_expectedRows = 0;
     m_status.clear();
-    furtherSinks.clear();
+    m_furtherSinks.clear();
     m_sinceBegin.start();
     m_sinceLived.start();
     if (m_spec.remember)
         m_spec.remember(*this);
+    if (offersWorkbook() && selection.isTicked("ckbCreateExcel")) {
+        m_status = "Preparing to Create Spreadsheet...";
+        m_furtherSinks.push_back(workbookMaker(workbookPath()));
+    }
     printGuarded();
+    m_furtherSinks.clear();
+}
+
+void ReportRun::selectionChanged()
+{
+    if (m_state == State::Finished)
+        setState(State::Idle, {});
+}
+
+bool ReportRun::offersWorkbook() const
+{
+    return workbookMaker && m_spec.workbookName;
+}
+
+QString ReportRun::workbookPath() const
+{
+    return storage::joinPath(m_session.UserSettingsPath, m_spec.workbookName(*this));
 }
 
 // A failure in the middle leaves what was drawn in the preview.
@@ -120,7 +143,8 @@ QString ReportRun::progressText() const
 bool dnReportBegin(ReportRun& run, const QString& orientation, const PageMargins& margins)
 {
     run.m_savedLandscape = run.pages.isLandscape();
-    run.setState(ReportRun::State::Running, "Now Printing...");
+    run.setState(ReportRun::State::Running,
+                 run.m_status.isEmpty() ? "Now Printing..." : run.m_status);
     run.pages.setLandscape(orientation.trimmed().toUpper() == "L");
     run.pages.margins = {orDefault(margins.left), orDefault(margins.right), orDefault(margins.top),
                          orDefault(margins.bottom)};
@@ -176,6 +200,11 @@ bool dnReportPaperSize(const PageDocument& pages, QString& caption)
 {
     caption = "Paper Size: " + paperSizeText(pages.paper());
     return pages.paper().code == a4Paper.code;
+}
+
+void installWorkbookMaker(WorkbookMaker maker)
+{
+    workbookMaker = maker;
 }
 
 PaperSize systemPaper()

@@ -28,6 +28,8 @@ public:
     // screen must not go before it returns.
     void begin();
     void requestCancel() { m_isCancelled = m_isCancelled || isRunning(); }
+    // A field was changed: a finished screen is idle again, with its pages.
+    void selectionChanged();
     State state() const { return m_state; }
     bool isRunning() const { return m_state == State::Running; }
     bool isCancelled() const { return m_isCancelled; }
@@ -40,8 +42,12 @@ public:
     // In place of the page that is being printed, until the next text or the end.
     void showStatus(const QString& text);
 
-    // The sinks of this run beside the paper; they are told in order. Cleared by begin.
-    std::vector<std::unique_ptr<ReportSink>> furtherSinks;
+    // The sinks of this run beside the paper: the workbook, when one is wanted.
+    const std::vector<std::unique_ptr<ReportSink>>& furtherSinks() const { return m_furtherSinks; }
+
+    // ---- the workbook, wanted when ckbCreateExcel is ticked
+    bool offersWorkbook() const;
+    QString workbookPath() const;  // in the user's folder
 
     // ---- what the screen shows of a run
     int rowCount() const { return m_rowCount; }
@@ -68,6 +74,7 @@ private:
     bool m_savedLandscape = false;
     QString m_processText;
     QString m_status;
+    std::vector<std::unique_ptr<ReportSink>> m_furtherSinks;
     int m_rowCount = 0;
     int m_expectedRows = 0;
     QElapsedTimer m_sinceBegin;
@@ -89,6 +96,10 @@ bool dnReportKeys(PageDocument& pages, int key);
 // True for A4 paper only, by which reports choose their A4 layouts. `caption` becomes what the
 // screen shows: "Paper Size: " and the paper.
 bool dnReportPaperSize(const PageDocument& pages, QString& caption);
+
+// Makes the sink that writes a workbook to a path. None is installed: no workbook is offered.
+using WorkbookMaker = std::unique_ptr<ReportSink> (*)(const QString& path);
+void installWorkbookMaker(WorkbookMaker maker);
 
 // The default printer's paper; Letter without a printer.
 PaperSize systemPaper();

@@ -54,7 +54,7 @@ struct ReportRefusal
 struct ReportSpec
 {
     QString name;
-    QString caption;
+    QString caption = {};
     std::vector<ReportField> fields = {};
     // Reads the remembered values into the selection when the screen opens; at Begin, once the
     // check has passed, `remember` writes them back.

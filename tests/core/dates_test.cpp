@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/fixed_system.h"
+
 namespace {
 
 const QString noDate(10, ' ');
@@ -43,6 +45,25 @@ TEST(Dates, TakeTheFormAndThePivotAsked)
     EXPECT_EQ(dnFixDate("3/7/2031", DateForm::Short8, pivot), "03/07/31");
     EXPECT_EQ(dnDateKey("3/7/26"), "20260307");
     EXPECT_EQ(dnDateKey("nothing"), QString(8, ' '));
+}
+
+TEST(Dates, AreWrittenOutForReports)
+{
+    EXPECT_EQ(dnLongDate("3/7/26"), "Saturday, March 7th, 2026");
+    EXPECT_EQ(dnLongDate("03/01/2026"), "Sunday, March 1st, 2026");
+    EXPECT_EQ(dnLongDate("12/22/2025"), "Monday, December 22nd, 2025");
+    EXPECT_EQ(dnLongDate("10/23/2025"), "Thursday, October 23rd, 2025");
+    for (const char* teen : {"6/11/26", "6/12/26", "6/13/26"})
+        EXPECT_TRUE(dnLongDate(teen).contains("th, 2026")) << teen;
+    EXPECT_EQ(dnLongDate("2/29/23"), "Invalid Date: 2/29/23") << "no such day in that year";
+    EXPECT_EQ(dnLongDate("soon"), "Invalid Date: soon");
+
+    EXPECT_EQ(dnPEDateRange("3/7/26", "3/7/26", true), "From 03/01/2026 to 03/07/2026");
+    EXPECT_EQ(dnPEDateRange("3/7/26", "3/14/26", true),
+              "From 03/01/2026 to 03/14/2026  (PE 03/07/2026 to PE 03/14/2026)");
+    EXPECT_EQ(dnPEDateRange("3/7/26", "3/14/26", false), "From 03/01/2026 to 03/14/2026");
+    const FixedSystem machine;
+    EXPECT_EQ(dnNowStamp(), "03/07/2026  09:05 AM");
 }
 
 }  // namespace

@@ -1,0 +1,181 @@
+#include "screens/report/report_window.h"
+
+#include "screens/command_runner.h"
+#include "screens/report/page_preview.h"
+#include "screens/report/page_view.h"
+#include "screens/report/report_fields.h"
+
+ReportWindow::ReportWindow(ReportSpec spec, const Session& session)
+    : m_run(std::move(spec), session),
+      m_fields(new QWidget),
+      m_begin(new QPushButton),
+      m_exit(new QPushButton("E&xit")),
+      m_process(new QLabel),
+      m_progress(new QProgressBar),
+      m_paper(new QLabel),
+      m_preview(new PagePreview(m_run.pages, m_run.spec().caption)),
+      m_emptySpace(new QWidget)
+{
+    setObjectName(m_run.spec().name);
+    setWindowTitle(m_run.spec().caption);
+    buildFields();
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(10, 8, 10, 8);
+    layout->addWidget(m_fields);
+    layout->addWidget(buildStrip());
+    layout->addWidget(m_preview, 1);
+    layout->addWidget(m_emptySpace, 1);
+    m_process->hide();
+    m_progress->hide();
+    m_preview->hide();
+    QString paper;
+    dnReportPaperSize(m_run.pages, paper);
+    m_paper->setText(paper);
+    m_run.onChange = [this] { showState(); };
+    resize(960, 600);
+    showState();
+    if (!m_fields->isHidden() && m_fields->focusPolicy() == Qt::NoFocus)
+        m_fields->setFocus();
+    else
+        m_begin->setFocus();
+}
+
+void ReportWindow::buildFields()
+{
+    auto* rows = new QFormLayout(m_fields);
+    rows->setContentsMargins(0, 0, 0, 4);
+    for (const ReportField& field : m_run.spec().fields)
+        addReportField(rows, field, m_run.selection, m_run.session(),
+                       [this] { m_run.selectionChanged(); });
+    if (m_run.offersWorkbook())
+        addWorkbookFields(rows, m_run);
+    m_fields->setObjectName("fraSelection");
+    m_fields->setVisible(rows->rowCount() > 0);
+}
+
+QWidget* ReportWindow::buildStrip()
+{
+    auto* strip = new QWidget;
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(0, 0, 0, 0);
+    m_begin->setObjectName("cmdBegin");
+    m_exit->setObjectName("CmdExit");
+    m_process->setObjectName("lblProcess");
+    m_process->setTextFormat(Qt::PlainText);
+    m_progress->setObjectName("prgProgress");
+    m_paper->setObjectName("lblPaperSize");
+    // As wide as its widest caption, so that the strip does not jump.
+    m_begin->setMinimumWidth(fontMetrics().horizontalAdvance("Max View") + 40);
+    m_progress->setMinimumWidth(220);
+    for (QPushButton* button : {m_begin, m_exit})
+        button->setAutoDefault(true);
+    onPressed(m_begin, [this] { pressBegin(); });
+    onPressed(m_exit, [this] { pressExit(); });
+    row->addWidget(m_begin);
+    row->addWidget(m_exit);
+    row->addWidget(m_process);
+    row->addStretch();
+    row->addWidget(m_progress);
+    row->addWidget(m_paper);
+    return strip;
+}
+
+void ReportWindow::pressBegin()
+{
+    switch (m_run.state()) {
+        case ReportRun::State::Running:
+            m_run.requestCancel();
+            return;
+        case ReportRun::State::Finished:
+            if (m_isMaxView)
+                dnReportRestoreScreen();
+            else
+                dnReportFullScreen();
+            return;
+        case ReportRun::State::Idle:
+            break;
+    }
+    m_run.begin();
+    if (m_run.state() == ReportRun::State::Finished)
+        m_preview->setFocus();
+    if (std::exchange(m_closesAfterRun, false))
+        close();
+}
+
+void ReportWindow::pressExit()
+{
+    if (m_run.isRunning())
+        m_run.requestCancel();
+    else
+        close();
+}
+
+void ReportWindow::closeEvent(QCloseEvent* event)
+{
+    if (!m_run.isRunning()) {
+        event->accept();
+        return;
+    }
+    m_run.requestCancel();
+    m_closesAfterRun = true;
+    event->ignore();
+}
+
+void ReportWindow::dnReportFullScreen()
+{
+    m_isMaxView = true;
+    showState();
+}
+
+void ReportWindow::dnReportRestoreScreen()
+{
+    m_isMaxView = false;
+    showState();
+}
+
+void ReportWindow::showState()
+{
+    const bool isRunning = m_run.isRunning();
+    const bool isFinished = m_run.state() == ReportRun::State::Finished;
+    const bool hasPages = m_run.pages.pageCount() > 0;
+    QString caption = isRunning ? "&Cancel" : "&Begin";
+    if (isFinished)
+        caption = m_isMaxView ? "&Restore" : "&Max View";
+    if (m_begin->text() != caption)
+        m_begin->setText(caption);
+    m_process->setText(m_run.processText());
+    m_process->setVisible(!m_run.processText().isEmpty());
+
+    const bool hasFields = static_cast<QFormLayout*>(m_fields->layout())->rowCount() > 0;
+    m_fields->setVisible(hasFields && !m_isMaxView);
+    m_fields->setEnabled(!isRunning);
+    m_paper->setVisible(!m_isMaxView && !isRunning);
+    m_progress->setVisible(isRunning);
+    m_progress->setRange(0, m_run.expectedRows());
+    m_progress->setValue(m_run.rowCount());
+    m_progress->setFormat(m_run.progressText().replace('%', "%%"));
+    m_preview->setVisible(hasPages);
+    m_emptySpace->setVisible(!hasPages);
+    m_preview->setComplete(!isRunning);
+}
+
+void ReportWindow::keyPressEvent(QKeyEvent* event)
+{
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier ||
+                         event->modifiers() == Qt::ShiftModifier;
+    if (event->key() == Qt::Key_Escape) {
+        m_exit->click();
+        return;
+    }
+    if (!m_run.isRunning() && m_run.pages.pageCount() > 0 && isPlain) {
+        if (event->key() == Qt::Key_P) {
+            m_preview->print();
+            return;
+        }
+        if (dnReportKeys(m_run.pages, event->key())) {
+            m_preview->refresh();
+            return;
+        }
+    }
+    QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,52 @@
+// The screen of a report: its selection fields, cmdBegin, CmdExit and lblProcess in a strip, and
+// the preview, which comes with the first run. cmdBegin is Begin, then Cancel, and after the run it
+// toggles Max View, which leaves the strip and the preview alone. Changing a field after a run
+// makes it Begin again; the pages stay. CmdExit and the window's own close button cancel a run; the
+// latter closes the screen when the run has ended.
+#pragma once
+
+#include <QWidget>
+
+#include "screens/report/report_run.h"
+
+class PagePreview;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+class ReportWindow : public QWidget
+{
+public:
+    ReportWindow(ReportSpec spec, const Session& session);
+
+    ReportRun& run() { return m_run; }
+    PagePreview& preview() { return *m_preview; }
+
+    bool isMaxView() const { return m_isMaxView; }
+    // The two halves of the Max View toggle.
+    void dnReportFullScreen();
+    void dnReportRestoreScreen();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void buildFields();
+    QWidget* buildStrip();
+    void pressBegin();
+    void pressExit();
+    void showState();
+
+    ReportRun m_run;
+    QWidget* m_fields;
+    QPushButton* m_begin;
+    QPushButton* m_exit;
+    QLabel* m_process;
+    QProgressBar* m_progress;
+    QLabel* m_paper;
+    PagePreview* m_preview;
+    QWidget* m_emptySpace;
+    bool m_isMaxView = false;
+    bool m_closesAfterRun = false;
+};
