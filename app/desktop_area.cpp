@@ -4,6 +4,18 @@
 
 namespace {
 
+QString placeKey(const QWidget& screen)
+{
+    return screen.objectName() + "/place";
+}
+
+// Hidden first, so that its place is kept.
+void removeFrame(QWidget* frame)
+{
+    frame->hide();
+    frame->deleteLater();
+}
+
 // Takes the frame of a screen away when the screen has closed itself.
 class FrameCloser : public QObject
 {
@@ -23,7 +35,7 @@ private:
     {
         const auto* screen = static_cast<QWidget*>(parent());
         if (screen->isHidden() && screen->parentWidget())
-            screen->parentWidget()->deleteLater();
+            removeFrame(screen->parentWidget());
     }
 };
 
@@ -47,17 +59,47 @@ void DesktopArea::addScreen(QWidget* screen, bool centred)
     QMdiSubWindow* window = addSubWindow(screen);
     window->setAttribute(Qt::WA_DeleteOnClose);
     if (auto* dialog = qobject_cast<QDialog*>(screen))
-        connect(dialog, &QDialog::finished, window, &QObject::deleteLater);
+        connect(dialog, &QDialog::finished, window, [window] { removeFrame(window); });
     else
         new FrameCloser(screen);
-    QSize size = window->sizeHint();
-    if (screen->testAttribute(Qt::WA_Resized))  // a size of the screen's own choice
-        size = size.expandedTo(screen->size());
-    window->resize(size.boundedTo(viewport()->size()));
-    if (centred)
-        window->move((viewport()->width() - window->width()) / 2,
-                     (viewport()->height() - window->height()) / 2);
+    window->installEventFilter(this);
+    place(window, centred);
     window->show();
+}
+
+void DesktopArea::place(QMdiSubWindow* window, bool centred) const
+{
+    const QWidget* screen = window->widget();
+    const QSize room = viewport()->size();
+    const QRect kept = m_layout.value(placeKey(*screen)).toRect();
+    QSize size = window->sizeHint();
+    if (kept.isValid())
+        size = kept.size();
+    else if (screen->testAttribute(Qt::WA_Resized))  // a size of the screen's own choice
+        size = size.expandedTo(screen->size());
+    window->resize(size.boundedTo(room));
+    QPoint at = window->pos();
+    if (kept.isValid())
+        at = kept.topLeft();
+    else if (centred)
+        at = {(room.width() - window->width()) / 2, (room.height() - window->height()) / 2};
+    // A second one of a kind does not hide the first.
+    for (const QMdiSubWindow* other : subWindowList())
+        if (other != window && other->pos() == at)
+            at += QPoint(24, 24);
+    const QPoint most(room.width() - window->width(), room.height() - window->height());
+    window->move(std::clamp(at.x(), 0, std::max(0, most.x())),
+                 std::clamp(at.y(), 0, std::max(0, most.y())));
+}
+
+bool DesktopArea::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* window = qobject_cast<QMdiSubWindow*>(watched);
+    if (window && window->widget() &&
+        (event->type() == QEvent::Hide || event->type() == QEvent::Close) &&
+        !window->isMinimized() && !window->isMaximized())
+        m_layout.setValue(placeKey(*window->widget()), window->geometry());
+    return QMdiArea::eventFilter(watched, event);
 }
 
 bool DesktopArea::bringToFront(const QString& screenName)

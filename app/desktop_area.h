@@ -3,12 +3,16 @@
 
 #include <QMdiArea>
 
+#include "screens/user_layout.h"
+
 class DesktopArea : public QMdiArea
 {
 public:
     explicit DesktopArea(const QString& programName);
 
     void setSiteName(const QString& siteName);
+    // From now on screens open where the user left them.
+    void keepPlaces(const UserLayout& layout) { m_layout = layout; }
 
     // Shows the screen and owns it; it is deleted when it closes.
     void addScreen(QWidget* screen, bool centred);
@@ -23,12 +27,15 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void changeEvent(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void tile(int columns, int rows);
     QList<QMdiSubWindow*> windowsToTile() const;
     void takeBackground();
+    void place(QMdiSubWindow* window, bool centred) const;
 
     QString m_programName;
     QString m_siteName;
+    UserLayout m_layout;
 };

@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "multiuser/users.h"
 #include "screens/command_runner.h"
+#include "screens/help.h"
 #include "screens/job_site_choice.h"
 #include "screens/notices.h"
 #include "screens/plain_notes.h"
@@ -31,6 +32,7 @@ frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
     buildMenus();
     buildStatusBar();
     new ScreenKeys(m_area);
+    new HelpKey(this);
     m_timer.setParent(this);
     m_timer.setObjectName("tmrMAIN");
     connect(&m_timer, &QTimer::timeout, this, [this] { m_watch.tick(); });
@@ -91,6 +93,7 @@ void frmVEXMAIN::buildStatusBar()
 void frmVEXMAIN::showSession()
 {
     const bool loaded = dnNotBlank(m_session.JobSiteName);
+    m_area->keepPlaces(UserLayout(m_session.UserSettingsPath));
     m_area->setSiteName(loaded ? m_session.JobSiteName : QString());
     m_user->setText(dnIsBlank(m_session.UserName) ? QString() : "User: " + m_session.UserName);
     m_site->setText(loaded ? "Job Site: " + m_session.JobSiteName : QString());
@@ -155,6 +158,7 @@ void frmVEXMAIN::editUserSettings()
     frmUSERSET settings(m_session);
     settings.exec();
     m_session.UserSettingsPath = settings.userSettingsPath();
+    m_area->keepPlaces(UserLayout(m_session.UserSettingsPath));
 }
 
 void frmVEXMAIN::showAbout()

@@ -12,6 +12,7 @@
 #include "screens/command_bar.h"
 #include "screens/command_runner.h"
 #include "screens/field_keys.h"
+#include "screens/help.h"
 #include "screens/key_line.h"
 #include "screens/load_error.h"
 
@@ -53,6 +54,7 @@ BrowseWindow::BrowseWindow(BrowseSpec spec, const ScreenContext& context,
 {
     setObjectName(m_session.spec().name);
     setWindowTitle(m_session.spec().caption);
+    setProperty(helpPageProperty, "browse");
     build();
     m_loaded = loadScreen(this, [this] { load(); });
 }
