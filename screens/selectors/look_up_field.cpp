@@ -69,6 +69,8 @@ LookUpField::LookUpField(const QString& name, const QString& nameLabel, LookUpSo
     onPressed(m_button, [this] { search(); });
     connect(m_edit, &QLineEdit::textEdited, this, &LookUpField::textEdited);
     connect(m_edit, &QLineEdit::editingFinished, this, &LookUpField::takeTyped);
+    connect(completer, qOverload<const QString&>(&QCompleter::activated), this,
+            &LookUpField::takeTyped, Qt::QueuedConnection);
     // While choices are offered, Enter comes here, after it has taken one, and goes on as always.
     connect(
         m_edit, &QLineEdit::returnPressed, this,
@@ -106,20 +108,23 @@ void LookUpField::check()
 
 void LookUpField::takeTyped()
 {
-    if (code() == m_checked)
-        return;
-    check();
-    Q_EMIT codeChanged();
+    const bool isOther = code() != m_checked;
+    if (isOther || m_name->text().isEmpty())
+        check();
+    if (isOther)
+        Q_EMIT codeChanged();
 }
 
 void LookUpField::textEdited(const QString& text)
 {
     if (text.contains('?') || text.contains('/')) {
-        m_edit->setText(m_checked);
+        setCode(m_checked);
         runCommand([this] { search(); });
-    } else if (m_areChoicesDue) {
-        offerChoices();
+        return;
     }
+    m_name->clear();  // of another code
+    if (m_areChoicesDue)
+        offerChoices();
 }
 
 // Read once for each visit of the field.

@@ -183,7 +183,11 @@ TEST_F(SelectorTest, OffersNumbersAndNamesThatContainWhatIsTyped)
     enter("txtCONO", "1");
     auto& edit = control<QLineEdit>(window, "txtJOBNO");
     edit.setFocus();
+    EXPECT_EQ(labelText(window, "lblJOBNAME"), "");
+    job.setJobNo("1001");
+    edit.selectAll();
     QTest::keyClicks(&edit, "unn");
+    EXPECT_EQ(labelText(window, "lblJOBNAME"), "") << "the name of what is not there any more";
     ASSERT_EQ(edit.completer()->completionCount(), 1);
     EXPECT_EQ(edit.completer()->currentCompletion(), "1002");
     addJob(1, "    2002", "Runner");
