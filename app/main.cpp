@@ -7,6 +7,7 @@
 #include "core/storage/storage_error.h"
 #include "screens/command_runner.h"
 #include "screens/qt_messages.h"
+#include "screens/qt_system_dialogs.h"
 
 namespace {
 
@@ -73,6 +74,8 @@ int main(int argc, char** argv)
 
     QtMessages messages;
     Messages::install(&messages);
+    QtSystemDialogs dialogs;
+    SystemDialogs::install(&dialogs);
     frmVEXMAIN mainWindow([] { std::_Exit(EXIT_SUCCESS); });
     QTimer::singleShot(0, &mainWindow, [&] {
         if (mainWindow.load() == LoadResult::EndProcess)

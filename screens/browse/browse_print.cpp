@@ -1,4 +1,23 @@
+// The print of a list: what the table report needs, from the description of the screen.
+#include "core/storage/file_paths.h"
 #include "screens/browse/browse_session.h"
+#include "screens/report/table_print.h"
+
+namespace {
+
+bool isText(storage::FieldType type)
+{
+    return type == storage::FieldType::Text || type == storage::FieldType::Memo ||
+           type == storage::FieldType::Date;
+}
+
+QString nameOf(schema::FieldName field)
+{
+    const std::string_view name = field.text();
+    return QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+}  // namespace
 
 void BrowseSession::print()
 {
@@ -6,4 +25,35 @@ void BrowseSession::print()
         return;
     if (m_spec.print.run)
         return m_spec.print.run(*this);
+    QStringList fields;
+    QStringList types;
+    QStringList lengths;
+    QStringList headings;
+    QStringList widths;
+    QStringList formats;
+    for (const BrowseColumn& column : m_spec.columns) {
+        fields.append(nameOf(column.field));
+        types.append(isText(m_list.typeOf(column.field)) ? "C" : "N");
+        lengths.append(QString::number(column.length));
+        headings.append(column.heading);
+        widths.append(QString::number(column.width));
+        formats.append(column.format[0] != '\0' ? column.format : "-");
+    }
+    std::vector<PrintKey> keys;
+    for (const KeyField& key : m_list.source().parent)
+        keys.push_back({key.key, nameOf(key.field)});
+    dnPrint({.file = storage::joinPath(folder(), m_spec.file),
+             .table = m_spec.table,
+             .index = m_spec.index,
+             .windowTitle = m_spec.print.window,
+             .reportName =
+                 m_spec.print.titleFor ? m_spec.print.titleFor(*this) : QString(m_spec.print.title),
+             .fields = fields.join('|'),
+             .types = types.join('|'),
+             .lengths = lengths.join('|'),
+             .headings = headings.join('|'),
+             .widths = widths.join('|'),
+             .formats = formats.join('|'),
+             .keys = keys},
+            m_session);
 }

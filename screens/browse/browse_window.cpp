@@ -2,7 +2,6 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
@@ -15,6 +14,7 @@
 #include "screens/help.h"
 #include "screens/key_line.h"
 #include "screens/load_error.h"
+#include "screens/selectors/error_box.h"
 
 namespace {
 
@@ -50,7 +50,7 @@ BrowseWindow::BrowseWindow(BrowseSpec spec, const ScreenContext& context,
       m_grid(new BrowseGrid(m_session.list(), "hsbMAIN")),
       m_commands(new CommandBar),
       m_keys(new KeyLine),
-      m_errorBox(new QLabel)
+      m_errorBox(new tqErrorBox)
 {
     setObjectName(m_session.spec().name);
     setWindowTitle(m_session.spec().caption);
@@ -70,8 +70,6 @@ void BrowseWindow::build()
     if (m_parent)
         layout->addWidget(m_parent);
     layout->addWidget(m_grid, 1);
-    m_errorBox->setObjectName("tqErrorBox");
-    m_errorBox->hide();
     layout->addWidget(m_errorBox);
     auto* foot = new QHBoxLayout;
     foot->addWidget(m_grid->moveButtons(), 0, Qt::AlignTop);
@@ -249,9 +247,8 @@ void BrowseWindow::showErrors()
 {
     const ErrorCollector& errors = m_session.errors();
     for (int i = 0; i < static_cast<int>(m_fields.size()); ++i)
-        m_fields[static_cast<size_t>(i)]->setProperty("error", errors.hasError(i + 1));
-    m_errorBox->setText(errors.text());
-    m_errorBox->setVisible(errors.ErrorCount() > 0);
+        markError(*m_fields[static_cast<size_t>(i)], errors.hasError(i + 1));
+    m_errorBox->showErrors(errors);
 }
 
 void BrowseWindow::takeTexts()

@@ -12,9 +12,9 @@ class BrowseGrid;
 class CommandBar;
 class KeyLine;
 class ParentBar;
-class QLabel;
 class QLineEdit;
 class QPushButton;
+class tqErrorBox;
 
 class BrowseWindow : public QWidget
 {
@@ -59,7 +59,7 @@ private:
     BrowseGrid* m_grid;
     CommandBar* m_commands;
     KeyLine* m_keys;
-    QLabel* m_errorBox;
+    tqErrorBox* m_errorBox;
     QPushButton* m_update = nullptr;
     QPushButton* m_exit = nullptr;
     std::vector<QPushButton*> m_browsing;  // commands while browsing

@@ -1,156 +1,149 @@
 #include "screens/browse/parent_bar.h"
 
 #include <QBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QToolButton>
 
 #include "core/locators.h"
 #include "core/storage/file_paths.h"
-#include "core/text.h"
 #include "core/user_settings.h"
-#include "screens/command_runner.h"
-#include "screens/field_keys.h"
-#include "screens/search/inventory_searches.h"
+#include "screens/selectors/branch_selector.h"
+#include "screens/selectors/company_selector.h"
+#include "screens/selectors/job_selector.h"
 
 namespace {
 
-constexpr char settingsTable[] = "VEXSETTINGS";
-
 OpenTable openSettings(const Session& session)
 {
-    return openTable(storage::joinPath(session.UserSettingsPath, "ZORUSER.mdb"), settingsTable);
+    return openTable(storage::joinPath(session.UserSettingsPath, "ZORUSER.mdb"), "VEXSETTINGS");
 }
 
-// A branch code with its name; "?" or the button searches.
-class BranchBar : public ParentBar
+class CompanyBar : public ParentBar
 {
 public:
-    explicit BranchBar(const Session& session) : m_session(session)
+    explicit CompanyBar(const Session& session) : CompanyBar(session, new tqCoNumber) {}
+
+    void load() override
     {
-        auto* layout = new QHBoxLayout(this);
-        layout->setContentsMargins(0, 0, 0, 0);
-        auto* caption = new QLabel("&Branch Code:");
-        m_code = new QLineEdit;
-        m_code->setObjectName("txtILCCODE");
-        m_code->setMaxLength(2);
-        m_code->setMaximumWidth(m_code->fontMetrics().horizontalAdvance('W') * 5);
-        setFieldKeys(*m_code, {.upperCase = true});
-        m_name = new QLabel;
-        m_name->setObjectName("lblILCNAME");
-        m_name->setTextFormat(Qt::PlainText);
-        auto* search = new QToolButton;
-        search->setObjectName("cmdILCSearch");
-        search->setText("...");
-        search->setToolTip("Search branch codes (?)");
-        search->setFocusPolicy(Qt::NoFocus);
-        caption->setBuddy(m_code);
-        for (QWidget* part : std::initializer_list<QWidget*>{caption, m_code, search})
-            layout->addWidget(part);
-        layout->addWidget(m_name, 1);
-        setFocusProxy(m_code);
-        onPressed(search, [this] { searchBranch(); });
-        connect(m_code, &QLineEdit::textEdited, this, [this](const QString& text) {
-            if (text.contains('?') || text.contains('/')) {
-                m_code->setText(m_shown);
-                runCommand([this] { searchBranch(); });
-            }
-        });
-        m_code->installEventFilter(this);
+        m_company->setDBPath(m_session.JobSitePath);
+        m_company->setCoNumber(remembered("CONO").toInt());
+    }
+    std::vector<KeyField> keys() const override
+    {
+        if (!m_company->IsValid())
+            return {};
+        return {{"CONO", m_company->CoNumber()}};
+    }
+    void save() override { remember("CONO", m_company->CoNumber()); }
+    QString hint() const override { return "Select Company Number First."; }
+
+private:
+    CompanyBar(const Session& session, tqCoNumber* company)
+        : ParentBar(session, company), m_company(company)
+    {
+    }
+
+    tqCoNumber* m_company;
+};
+
+class CompanyAndJobBar : public ParentBar
+{
+public:
+    explicit CompanyAndJobBar(const Session& session) : CompanyAndJobBar(session, new tqCoJobNumber)
+    {
     }
 
     void load() override
     {
-        OpenTable settings = openSettings(m_session);
-        m_tag = zorGetUserSetting(settings.rows, m_session.SiteTag, "ILCTAG").toInt();
-        OpenTable branches = openBranches();
-        branches.rows.Index("ILCTAG");
-        if (m_tag != 0 && branches.rows.Seek("=", m_tag))
-            show(branches.rows);
-        else
-            showNone();
+        m_job->setDBPath(m_session.JobSitePath);
+        m_job->setCoNumber(remembered("CONOPAIR").toInt());
+        m_job->setJobNo(remembered("JOBNOPAIR").toString().trimmed());
     }
-
     std::vector<KeyField> keys() const override
     {
-        return m_tag == 0 ? std::vector<KeyField>() : std::vector<KeyField>{{"ILCTAG", m_tag}};
+        if (!m_job->IsValid())
+            return {};
+        return {{"CONO", m_job->CoNumber()}, {"JOBNO", m_job->JobNo()}};
     }
-
     void save() override
     {
-        OpenTable settings = openSettings(m_session);
-        zorSaveUserSetting(settings.rows, m_session.SiteTag, "ILCTAG", m_tag);
+        remember("CONOPAIR", m_job->CoNumber());
+        remember("JOBNOPAIR", m_job->JobNo());
     }
-
-    QString hint() const override { return "Select a Valid Branch Code"; }
-
-protected:
-    bool eventFilter(QObject*, QEvent* event) override
-    {
-        if (event->type() == QEvent::FocusIn)
-            Q_EMIT entered();
-        if (event->type() == QEvent::FocusOut &&
-            static_cast<QFocusEvent*>(event)->reason() != Qt::ActiveWindowFocusReason)
-            runCommand([this] { take(m_code->text()); });
-        return false;
-    }
+    QString hint() const override { return "Select Company/Job Number First."; }
 
 private:
-    OpenTable openBranches() const
+    CompanyAndJobBar(const Session& session, tqCoJobNumber* job)
+        : ParentBar(session, job), m_job(job)
     {
-        return openTable(storage::joinPath(m_session.JobSitePath, "ZORVEX.mdb"), "ILCLIST");
     }
 
-    void show(storage::Recordset& branches)
+    tqCoJobNumber* m_job;
+};
+
+class BranchBar : public ParentBar
+{
+public:
+    explicit BranchBar(const Session& session) : BranchBar(session, new BranchSelector) {}
+
+    void load() override
     {
-        m_tag = intOf(branches["ILCTAG"]);
-        m_shown = trimmedTextOf(branches["ILCCODE"]);
-        m_code->setText(m_shown);
-        m_name->setText(trimmedTextOf(branches["ILCNAME"]));
+        m_branch->setFolder(m_session.JobSitePath);
+        m_branch->setTag(remembered("ILCTAG").toInt());
+    }
+    std::vector<KeyField> keys() const override
+    {
+        if (m_branch->tag() == 0)
+            return {};
+        return {{"ILCTAG", m_branch->tag()}};
+    }
+    void save() override { remember("ILCTAG", m_branch->tag()); }
+    QString hint() const override { return branchHint; }
+
+private:
+    BranchBar(const Session& session, BranchSelector* branch)
+        : ParentBar(session, branch), m_branch(branch)
+    {
     }
 
-    void showNone()
-    {
-        m_tag = 0;
-        m_shown.clear();
-        m_code->clear();
-        m_name->setText(hint());
-    }
-
-    void take(const QString& code)
-    {
-        OpenTable branches = openBranches();
-        branches.rows.Index("ILCCODE");
-        if (dnNotBlank(code) && branches.rows.Seek("=", code.trimmed()))
-            show(branches.rows);
-        else
-            showNone();
-        Q_EMIT left();
-    }
-
-    void searchBranch()
-    {
-        const QString bookmark = zorSearchBranch(m_session.JobSitePath);
-        if (dnIsBlank(bookmark))
-            return;
-        OpenTable branches = openBranches();
-        branches.rows.Bookmark(bookmark);
-        show(branches.rows);
-        Q_EMIT left();
-    }
-
-    Session m_session;
-    QLineEdit* m_code;
-    QLabel* m_name;
-    QString m_shown;
-    qint32 m_tag = 0;
+    BranchSelector* m_branch;
 };
 
 }  // namespace
 
+ParentBar::ParentBar(Session session, Selector* selector) : m_session(std::move(session))
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(selector);
+    setFocusProxy(selector);
+    connect(selector, &Selector::entered, this, [this, selector] {
+        selector->setActive(true);
+        Q_EMIT entered();
+    });
+    connect(selector, &Selector::left, this, [this, selector] {
+        Q_EMIT left();
+        selector->setActive(false);
+    });
+}
+
+storage::Value ParentBar::remembered(const QString& field) const
+{
+    OpenTable settings = openSettings(m_session);
+    return zorGetUserSetting(settings.rows, m_session.SiteTag, field);
+}
+
+void ParentBar::remember(const QString& field, const storage::Value& value) const
+{
+    OpenTable settings = openSettings(m_session);
+    zorSaveUserSetting(settings.rows, m_session.SiteTag, field, value);
+}
+
 ParentBar* makeParentBar(const BrowseSession& session)
 {
     switch (session.spec().parent.kind) {
+        case BrowseParent::Kind::Company:
+            return new CompanyBar(session.session());
+        case BrowseParent::Kind::CompanyAndJob:
+            return new CompanyAndJobBar(session.session());
         case BrowseParent::Kind::Branch:
             return new BranchBar(session.session());
         default:

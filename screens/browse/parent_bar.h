@@ -5,6 +5,8 @@
 
 #include "screens/browse/browse_session.h"
 
+class Selector;
+
 class ParentBar : public QWidget
 {
     Q_OBJECT
@@ -16,14 +18,22 @@ public:
     virtual std::vector<KeyField> keys() const = 0;
     // Remembers the choice.
     virtual void save() = 0;
-    // While a record is entered nobody chooses another parent.
-    virtual void setLocked(bool locked) { setEnabled(!locked); }
     // What stands in place of a list when there is no parent.
     virtual QString hint() const = 0;
+    // While a record is entered nobody chooses another parent.
+    void setLocked(bool locked) { setEnabled(!locked); }
 
 Q_SIGNALS:
     void entered();
     void left();
+
+protected:
+    ParentBar(Session session, Selector* selector);
+
+    storage::Value remembered(const QString& field) const;
+    void remember(const QString& field, const storage::Value& value) const;
+
+    const Session m_session;
 };
 
 // The control for the parent that the screen needs; null for none.
