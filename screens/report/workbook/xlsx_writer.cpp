@@ -1,6 +1,7 @@
 #include "screens/report/workbook/xlsx_writer.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryFile>
 #include <cmath>
 #include <cstdio>
@@ -17,6 +18,15 @@ QString temporaryBeside(const QString& file)
     QTemporaryFile temporary(file + ".XXXXXX");
     temporary.setAutoRemove(false);
     return temporary.open() ? temporary.fileName() : QString();
+}
+
+// What looks like the escape of a character is escaped itself.
+QByteArray cellText(const QString& text)
+{
+    if (!text.contains("_x"))
+        return text.toUtf8();
+    static const QRegularExpression escape("_(?=x[0-9A-Fa-f]{4}_)");
+    return QString(text).replace(escape, "_x005F_").toUtf8();
 }
 
 }  // namespace
@@ -90,7 +100,7 @@ void XlsxWriter::addRow(int row, const WorkbookRow& cells, bool bold)
             lxw_format* format =
                 bold ? (isShort ? m_boldText : m_bold) : (isShort ? m_text : m_plain);
             if (!text.isEmpty())
-                check(worksheet_write_string(m_sheet, place, column, text.toUtf8().constData(),
+                check(worksheet_write_string(m_sheet, place, column, cellText(text).constData(),
                                              format));
         } else if (const double value = cell.toDouble(); !cell.isNull() && std::isfinite(value)) {
             check(worksheet_write_number(m_sheet, place, column, value, bold ? m_bold : m_plain));
