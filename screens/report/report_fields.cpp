@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int longestShown = 60;  // characters
+
 void repairDate(QLineEdit* edit)
 {
     const QString date = dnFixDate(edit->text());
@@ -19,6 +21,7 @@ QWidget* textControl(const ReportField& field, ReportSelection& selection,
 {
     const bool isDate = field.kind == ReportField::Kind::Date;
     auto* edit = new QLineEdit(selection[field.name]);
+    edit->setMaximumWidth(edit->fontMetrics().averageCharWidth() * longestShown);
     setFieldKeys(*edit, {.dateKeys = isDate});
     QObject::connect(edit, &QLineEdit::textChanged, edit,
                      [&selection, name = QString(field.name), changed](const QString& text) {

@@ -7,6 +7,7 @@
 #include "core/storage/file_paths.h"
 #include "screens/command_runner.h"
 #include "screens/report/report_page.h"
+#include "screens/report/workbook_sink.h"
 #include "screens/system_dialogs.h"
 
 namespace {
@@ -24,8 +25,6 @@ QString count(int number)
 {
     return number == 0 ? QString("0") : dnFormat(number, "###,###,###");
 }
-
-WorkbookMaker workbookMaker = nullptr;
 
 int orDefault(int margin)
 {
@@ -73,7 +72,7 @@ void ReportRun::begin()
         m_spec.remember(*this);
     if (offersWorkbook() && selection.isTicked("ckbCreateExcel")) {
         m_status = "Preparing to Create Spreadsheet...";
-        m_furtherSinks.push_back(workbookMaker(workbookPath()));
+        m_furtherSinks.push_back(std::make_unique<WorkbookSink>(workbookPath()));
     }
     printGuarded();
     m_furtherSinks.clear();
@@ -83,11 +82,6 @@ void ReportRun::selectionChanged()
 {
     if (m_state == State::Finished)
         setState(State::Idle, {});
-}
-
-bool ReportRun::offersWorkbook() const
-{
-    return workbookMaker && m_spec.workbookName;
 }
 
 QString ReportRun::workbookPath() const
@@ -200,11 +194,6 @@ bool dnReportPaperSize(const PageDocument& pages, QString& caption)
 {
     caption = "Paper Size: " + paperSizeText(pages.paper());
     return pages.paper().code == a4Paper.code;
-}
-
-void installWorkbookMaker(WorkbookMaker maker)
-{
-    workbookMaker = maker;
 }
 
 PaperSize systemPaper()

@@ -46,7 +46,7 @@ public:
     const std::vector<std::unique_ptr<ReportSink>>& furtherSinks() const { return m_furtherSinks; }
 
     // ---- the workbook, wanted when ckbCreateExcel is ticked
-    bool offersWorkbook() const;
+    bool offersWorkbook() const { return m_spec.workbookName != nullptr; }
     QString workbookPath() const;  // in the user's folder
 
     // ---- what the screen shows of a run
@@ -96,10 +96,6 @@ bool dnReportKeys(PageDocument& pages, int key);
 // True for A4 paper only, by which reports choose their A4 layouts. `caption` becomes what the
 // screen shows: "Paper Size: " and the paper.
 bool dnReportPaperSize(const PageDocument& pages, QString& caption);
-
-// Makes the sink that writes a workbook to a path. None is installed: no workbook is offered.
-using WorkbookMaker = std::unique_ptr<ReportSink> (*)(const QString& path);
-void installWorkbookMaker(WorkbookMaker maker);
 
 // The default printer's paper; Letter without a printer.
 PaperSize systemPaper();

@@ -1,4 +1,5 @@
 #include "screens/report/report_window.h"
+#include "screens/help.h"
 
 #include "screens/command_runner.h"
 #include "screens/report/page_preview.h"
@@ -17,6 +18,7 @@ ReportWindow::ReportWindow(ReportSpec spec, const Session& session)
       m_emptySpace(new QWidget)
 {
     setObjectName(m_run.spec().name);
+    setProperty(helpPageProperty, "report");
     setWindowTitle(m_run.spec().caption);
     buildFields();
     auto* layout = new QVBoxLayout(this);

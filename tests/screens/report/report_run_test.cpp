@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "core/storage/storage_error.h"
@@ -85,53 +91,95 @@ protected:
     ScriptedDialogs dialogs;
 };
 
-// Lines as a workbook would be given them.
-class RecordingSink : public ReportSink
+// The cells of a workbook's first sheet, as an independent program reads them.
+QStringList rowsOfWorkbook(const QString& path)
 {
-public:
-    void begin(const ReportPlan& plan) override { told.append("begin " + plan.title); }
-    void head(size_t level, const QString& text) override
-    {
-        told.append(QString("head %1 %2").arg(level).arg(text));
+    QProcess reader;
+    reader.start("/usr/bin/python3", {READ_WORKBOOK, path});
+    EXPECT_TRUE(reader.waitForFinished());
+    const QJsonArray sheets = QJsonDocument::fromJson(reader.readAllStandardOutput()).array();
+    QStringList rows;
+    for (const QJsonValue& row : sheets[0].toObject()["rows"].toArray()) {
+        QStringList cells;
+        for (const QJsonValue& cell : row.toArray())
+            cells.append(cell[0].toString() + ' ' + cell[1].toVariant().toString());
+        rows.append(cells.join('|').remove("blank "));
     }
-    void line(const ReportCells& cells) override { told.append("line " + cells[1].toString()); }
-    void total(size_t level, const QString& caption, const ReportCells& sums) override
-    {
-        told.append(QString("%1 %2 %3").arg(level).arg(caption).arg(sums[2].toDouble()));
-    }
-    void note(const QString& text) override { told.append(text); }
-    void end(bool isComplete) override { told.append(isComplete ? "end" : "cut"); }
-
-    inline static QStringList told;
-};
+    return rows;
+}
 
 TEST_F(ReportRuns, GiveEachLineOnceToPaperAndWorkbookWithSubtotals)
 {
-    RecordingSink::told.clear();
-    installWorkbookMaker([](const QString& path) -> std::unique_ptr<ReportSink> {
-        RecordingSink::told.append(path);
-        return std::make_unique<RecordingSink>();
-    });
+    const QTemporaryDir folder;
     ReportSpec spec = paymentReport();
     spec.workbookName = [](const ReportRun&) { return "Payments.xls"; };
     Session session;
-    session.UserSettingsPath = "C:\\ZORUSER";
+    session.UserSettingsPath = folder.path();
     ReportRun run(spec, session);
+    run.begin();
+    EXPECT_FALSE(QFile::exists(run.workbookPath())) << "none was asked for";
+    QString status;
+    run.onChange = [&] { status = run.isRunning() ? run.processText() : status; };
     run.selection.tick("ckbCreateExcel");
     run.begin();
-    installWorkbookMaker(nullptr);
+    EXPECT_EQ(status, "Preparing to Create Spreadsheet...");
 
     // A hidden line counts in the totals.
-    EXPECT_EQ(linesOn(run.pages, 1).mid(0, 9),
+    EXPECT_EQ(linesOn(run.pages, 1).mid(0, 11),
               QStringList({"Payment Activity by G/L Number", "From 03/01/2026 to 03/07/2026",
                            "Paid", "G/L Number|PO Number", "Amount PRD", "5100|1001|10.25",
-                           "5100|1002|20.50", "G/L Number Subtotal:|35.75", "6200|1001|1.00"}));
-    EXPECT_EQ(linesOn(run.pages, 1).mid(9, 2),
-              QStringList({"G/L Number Subtotal:|1.00", "Report Total:|36.75"}));
-    EXPECT_EQ(RecordingSink::told,
-              QStringList({"C:\\ZORUSER\\Payments.xls", "begin Payment Activity by G/L Number",
-                           "line 1001", "line 1002", "0 G/L Number Subtotal: 35.75", "line 1001",
-                           "0 G/L Number Subtotal: 1", "1 Report Total: 36.75", "end"}));
+                           "5100|1002|20.50", "G/L Number Subtotal:|35.75", "6200|1001|1.00",
+                           "G/L Number Subtotal:|1.00", "Report Total:|36.75"}));
+    EXPECT_EQ(run.workbookPath(), folder.filePath("Payments.xls"));
+    EXPECT_EQ(
+        rowsOfWorkbook(run.workbookPath()),
+        QStringList({"||text Paid", "text G/L Number|text PO Number|text Amount PRD",
+                     "text 5100|text 1001|number 10.25", "text 5100|text 1002|number 20.5",
+                     "text G/L Number Subtotal:||number 35.75", "text 6200|text 1001|number 1",
+                     "text G/L Number Subtotal:||number 1", "text Report Total:||number 36.75"}));
+}
+
+TEST_F(ReportRuns, PrintOnWhenTheWorkbookCannotBeWritten)
+{
+    const QTemporaryDir folder;
+    ReportSpec spec = paymentReport();
+    spec.workbookName = [](const ReportRun&) { return "Payments.xls"; };
+    Session session;
+    session.UserSettingsPath = folder.filePath("gone");
+    ReportRun run(spec, session);
+    run.selection.tick("ckbCreateExcel");
+    user.expect("Cannot Create Spreadsheet",
+                "Cannot write the workbook " + run.workbookPath() + ": No such file or directory");
+    run.begin();
+    EXPECT_TRUE(linesOn(run.pages, 1).contains("Report Total:|36.75"));
+}
+
+TEST_F(ReportRuns, LeaveTheOldWorkbookWhenTheyAreStopped)
+{
+    const QTemporaryDir folder;
+    QFile old(folder.filePath("Payments.xls"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    const auto plan = [](const ReportRun&) -> ReportPlan {
+        return {.title = "Log", .columns = {{.heading = "Item", .width = 3000}}};
+    };
+    const auto walk = [](ReportRun& run, ReportLines& lines) {
+        lines.add({.cells = {"one"}});
+        run.requestCancel();
+        EXPECT_FALSE(lines.add({.cells = {"two"}}));
+    };
+    Session session;
+    session.UserSettingsPath = folder.path();
+    ReportRun stopped({.name = "frmTEST",
+                       .print = listReport(plan, walk),
+                       .workbookName = [](const ReportRun&) { return "Payments.xls"; }},
+                      session);
+    stopped.selection.tick("ckbCreateExcel");
+    stopped.begin();
+    EXPECT_EQ(stopped.processText(), "Report STOPPED BY USER (INCOMPLETE)");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("Payments.xls"));
+    EXPECT_EQ(QFileInfo(old).size(), 3);
 }
 
 TEST_F(ReportRuns, SayWhenThereIsNothing)
