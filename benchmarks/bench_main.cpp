@@ -8,6 +8,7 @@
 void registerStoreBenchmarks();
 void registerContentionBenchmarks();
 void registerSearchBenchmarks();
+void registerWorkbookBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 int main(int argc, char** argv)
@@ -24,5 +25,6 @@ int main(int argc, char** argv)
     registerStoreBenchmarks();
     registerContentionBenchmarks();
     registerSearchBenchmarks();
+    registerWorkbookBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }
