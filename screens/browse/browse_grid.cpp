@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTimer>
 #include <QToolButton>
@@ -53,6 +54,20 @@ constexpr MoveButton moveButtonRow[] = {
     {"END", "\u21E5", "Last record (End)", BrowseGrid::Move::End},
 };
 
+// The highlight is the row; a single cell is never marked.
+class RowDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+    }
+};
+
 int pixels(int twips, const QWidget& on)
 {
     return twips * on.logicalDpiX() / twipsPerInch;
@@ -82,6 +97,7 @@ BrowseGrid::BrowseGrid(BrowseList& list, const QString& focusHolder)
     m_page->setParent(this);
     m_view->setObjectName(focusHolder);
     m_view->setModel(m_page);
+    m_view->setItemDelegate(new RowDelegate(m_view));
     m_view->setSelectionMode(QAbstractItemView::NoSelection);
     m_view->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_view->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -133,6 +149,8 @@ BrowseGrid::~BrowseGrid() = default;
 void BrowseGrid::setColumns(const std::vector<GridColumn>& columns)
 {
     m_settingWidths = true;
+    m_view->clearSpans();
+    m_messageRow = -1;
     m_page->setColumns(columns);
     QHeaderView* headings = m_view->horizontalHeader();
     const QFontMetrics metrics = m_view->fontMetrics();
@@ -244,6 +262,7 @@ void BrowseGrid::changed()
 void BrowseGrid::refresh()
 {
     m_page->refresh();
+    showMessageRow();
     m_view->scrollToTop();
     if (m_list.BrowseRow < m_page->rowCount())
         m_view->selectionModel()->select(
@@ -260,6 +279,23 @@ QSize BrowseGrid::sizeHint() const
     return {QWidget::sizeHint().width(), height};
 }
 
+// What stands in place of a record has the width of all columns.
+void BrowseGrid::showMessageRow()
+{
+    int messageRow = -1;
+    for (int row = 0; row < m_page->rowCount(); ++row) {
+        const BrowseLine::Kind kind = m_list.lines()[static_cast<size_t>(row)].kind;
+        if (kind == BrowseLine::Kind::EndOfList || kind == BrowseLine::Kind::ListIsEmpty)
+            messageRow = row;
+    }
+    if (messageRow == m_messageRow)
+        return;
+    m_view->clearSpans();
+    if (messageRow >= 0 && m_page->columnCount() > 2)
+        m_view->setSpan(messageRow, 1, 1, m_page->columnCount() - 1);
+    m_messageRow = messageRow;
+}
+
 void BrowseGrid::takeFocus()
 {
     m_view->setFocus(Qt::OtherFocusReason);
@@ -267,7 +303,9 @@ void BrowseGrid::takeFocus()
 
 QRect BrowseGrid::cellRect(int row, int column) const
 {
-    return m_view->visualRect(m_page->index(row, column + 1));
+    // Not the view's own answer: a message in the row has the width of all columns.
+    return {m_view->columnViewportPosition(column + 1), m_view->rowViewportPosition(row),
+            m_view->columnWidth(column + 1), m_view->rowHeight(row)};
 }
 
 void BrowseGrid::takeRoom()

@@ -82,6 +82,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void showMessageRow();
     void takeRoom();
     bool clicked(const QPoint& at, bool isDouble);
     void changed();
@@ -101,5 +102,6 @@ private:
     bool m_movesEnabled = true;
     bool m_actsOnClick = true;
     bool m_settingWidths = false;
+    int m_messageRow = -1;
     int m_wheel = 0;  // eighths of a degree not used up
 };

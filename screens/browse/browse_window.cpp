@@ -70,7 +70,8 @@ void BrowseWindow::build()
     if (m_parent)
         layout->addWidget(m_parent);
     layout->addWidget(m_grid, 1);
-    layout->addWidget(m_errorBox);
+    // Over the rows: it does not move the one in hand when it comes and goes.
+    m_errorBox->setParent(this);
     auto* foot = new QHBoxLayout;
     foot->addWidget(m_grid->moveButtons(), 0, Qt::AlignTop);
     foot->addSpacing(12);
@@ -170,6 +171,7 @@ void BrowseWindow::load()
         m_session.setParent(m_givenParent);
     }
     showState();
+    takeFocus();
 }
 
 // A choice that did not change leaves the list alone, and one that is not valid the last good one.
@@ -220,14 +222,27 @@ void BrowseWindow::showEntry()
             field->setText(m_session.text(i));
     }
     if (!entering && m_wasEntering)
-        m_grid->takeFocus();
+        takeFocus();
     placeFields();
     for (QLineEdit* field : m_fields)
         field->setVisible(entering);
     showErrors();
     if (entering && !m_fields.empty())
         m_fields[static_cast<size_t>(m_session.fieldToFocus())]->setFocus(Qt::OtherFocusReason);
-    else if (!entering && !(m_parent && m_parent->isAncestorOf(focusWidget())))
+    else if (!entering && m_session.hasParent() &&
+             !(m_parent && m_parent->isAncestorOf(focusWidget())))
+        takeFocus();
+}
+
+// The list has the keyboard while the user browses; until there is one, the choice of its parent.
+void BrowseWindow::takeFocus()
+{
+    const QWidget* now = QApplication::focusWidget();
+    if (isVisible() && now && !isAncestorOf(now))
+        return;  // a command has opened another screen
+    if (m_parent && !m_session.hasParent())
+        m_parent->setFocus(Qt::OtherFocusReason);
+    else
         m_grid->takeFocus();
 }
 
@@ -241,6 +256,7 @@ void BrowseWindow::placeFields()
         if (columns[static_cast<size_t>(i)].entry[0] != '\0')
             m_fields[static_cast<size_t>(entry++)]->setGeometry(
                 m_grid->cellRect(m_session.entryRow(), i));
+    placeErrorBox();
 }
 
 void BrowseWindow::showErrors()
@@ -249,6 +265,23 @@ void BrowseWindow::showErrors()
     for (int i = 0; i < static_cast<int>(m_fields.size()); ++i)
         markError(*m_fields[static_cast<size_t>(i)], errors.hasError(i + 1));
     m_errorBox->showErrors(errors);
+    placeErrorBox();
+}
+
+// At the foot of the rows, or at their head when the entry is in the lower half.
+void BrowseWindow::placeErrorBox()
+{
+    if (m_errorBox->isHidden())
+        return;
+    const QWidget* rows = m_grid->view()->viewport();
+    const QRect room(rows->mapTo(this, QPoint()), rows->size());
+    const int height = m_errorBox->heightForWidth(room.width()) > 0
+                           ? m_errorBox->heightForWidth(room.width())
+                           : m_errorBox->sizeHint().height();
+    const bool below = m_grid->cellRect(m_session.entryRow(), 0).bottom() < room.height() - height;
+    m_errorBox->setGeometry(room.x(), below ? room.bottom() + 1 - height : room.y(), room.width(),
+                            height);
+    m_errorBox->raise();
 }
 
 void BrowseWindow::takeTexts()
@@ -332,7 +365,7 @@ bool BrowseWindow::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowActivate && m_loaded && m_session.isBrowsing()) {
         run([this] { m_session.comeToFront(); });
-        m_grid->takeFocus();
+        takeFocus();
     }
     return QWidget::event(event);
 }

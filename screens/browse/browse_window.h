@@ -48,6 +48,8 @@ private:
     void showEntry();
     void placeFields();
     void showErrors();
+    void placeErrorBox();
+    void takeFocus();
     void takeTexts();
     void fieldLeft(int entry);
     bool commandForKey(int key);
