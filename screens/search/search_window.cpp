@@ -12,6 +12,7 @@
 #include "core/text.h"
 #include "screens/browse/browse_grid.h"
 #include "screens/command_runner.h"
+#include "screens/help.h"
 
 namespace {
 
@@ -62,6 +63,7 @@ frmDNSearch::frmDNSearch(SearchSession& search, QWidget* parent)
       m_text(plainLabel("lblSearch", " "))
 {
     setObjectName("frmDNSearch");
+    setProperty(helpPageProperty, "search");
     setWindowTitle(search.request().WindowTitle);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 14, 16, 12);

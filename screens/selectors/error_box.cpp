@@ -91,7 +91,10 @@ void tqErrorBox::ClearAll()
 
 void tqErrorBox::showErrors(const ErrorCollector& errors)
 {
+    const bool isNew = errors.text() != text() && errors.ErrorCount() >= ErrorCount();
     m_errors = errors;
+    if (isNew)
+        dnPlaySound(errorSound);
     showText();
     setVisible(m_errors.ErrorCount() > 0);
 }

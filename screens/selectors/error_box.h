@@ -8,7 +8,7 @@
 
 class QLabel;
 
-// Shows itself while there are errors that it was shown for; the screen hides it when it likes.
+// Hidden at first. The routines below show and hide it; a screen may do so, too.
 class tqErrorBox : public QFrame
 {
 public:
@@ -23,7 +23,7 @@ public:
     // All messages, in the order of the fields.
     QString text() const { return m_errors.text(); }
     // Takes the place of what was collected here, for a screen that collects by itself; shown if
-    // there is any.
+    // there is any, with a sound for a new one.
     void showErrors(const ErrorCollector& errors);
 
 private:

@@ -131,15 +131,16 @@ TEST_F(SearchWindowTest, ChangesTheColumnByTitleAndByKey)
               "Bolt");
 }
 
-TEST_F(SearchWindowTest, ShowsTwelveRowsAndTakesRoomForMore)
+TEST_F(SearchWindowTest, ShowsTwelveRowsAtLeast)
 {
     for (int i = 0; i < 40; ++i)
         site.addRow("ZORVEX.mdb", "VENDORS", {{"Name", "Z"}, {"VENNO", QString::number(i)}});
     search([](frmDNSearch& window) {
-        EXPECT_EQ(window.search().list().lines().size(), 12U);
+        const size_t rowsAtFirst = window.search().list().lines().size();
+        EXPECT_GE(rowsAtFirst, 12U);
         window.resize(window.width(), window.height() + 200);
         QCoreApplication::processEvents();
-        EXPECT_GT(window.search().list().lines().size(), 14U);
+        EXPECT_GT(window.search().list().lines().size(), rowsAtFirst + 3);
         window.reject();
     });
 }

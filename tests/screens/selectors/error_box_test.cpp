@@ -67,6 +67,21 @@ TEST_F(ErrorBoxTest, SoundsWhereThereIsASound)
     site.makeMarker(site.programFolder() + "/ZORMedia", "ErrorSound.wav");
     dnShowError(*box, *code, 1, "x");
     EXPECT_EQ(sounds, 1);
+
+    ErrorCollector collected;
+    collected.AddError("x", 1);
+    box->showErrors(collected);
+    EXPECT_EQ(sounds, 1) << "an error that is known already";
+    collected.AddError("y", 2);
+    box->showErrors(collected);
+    EXPECT_EQ(sounds, 2);
+    EXPECT_EQ(labelText(window, "lblErrors"), "x\ny");
+    collected.ClearField(1);
+    box->showErrors(collected);
+    EXPECT_EQ(sounds, 2) << "one error fewer";
+    collected.ClearAll();
+    box->showErrors(collected);
+    EXPECT_TRUE(box->isHidden());
 }
 
 // Contrast of two colours as readers of screens know it: 4.5 and more is good for texts.
