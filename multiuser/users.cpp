@@ -8,20 +8,13 @@
 #include "core/storage/file_paths.h"
 #include "core/storage/storage_error.h"
 #include "core/system.h"
+#include "multiuser/network_database.h"
 
 namespace {
 
 const QString failed = "ERROR";
 
 RefusalScreen refusalScreen;
-
-struct NetworkDatabase
-{
-    storage::Workspace workspace = storage::CreateWorkspace("wksNET");
-    storage::Database database;
-
-    explicit NetworkDatabase(const QString& path) : database(workspace.OpenDatabase(path)) {}
-};
 
 bool seekUser(storage::Recordset& users, const QString& userName)
 {
@@ -132,14 +125,20 @@ QString dnNetPath(bool quiet)
     return failed;
 }
 
-qint32 dnUserTag(const QString&, const QString& userName)
+std::optional<QString> networkDatabasePath()
 {
     if (!locatorExists("NETPATH"))
-        return 0;
+        return std::nullopt;
     const QString path = dnNetPath(false);
-    if (path == failed)
+    return path == failed ? std::nullopt : std::optional(path);
+}
+
+qint32 dnUserTag(const QString&, const QString& userName)
+{
+    const std::optional<QString> path = networkDatabasePath();
+    if (!path)
         return 0;
-    const NetworkDatabase network(path);
+    const NetworkDatabase network(*path);
     storage::Recordset users = network.database.OpenRecordset("USERLIST");
     if (seekUser(users, userName))
         return users["USERTAG"].value().toInt();
