@@ -39,11 +39,15 @@ frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
     installRefusalScreen([](const QString& userName, const QString& process) {
         frmDNNETNoAccess(userName, process)->exec();
     });
+    installLockedScreen([](const HeldLock& lock, bool mayRemove) {
+        return frmDNNETRLocked(lock, mayRemove)->exec() == removesLock;
+    });
 }
 
 frmVEXMAIN::~frmVEXMAIN()
 {
     installRefusalScreen({});
+    installLockedScreen({});
     Desktop::install(m_desktopBefore);
 }
 

@@ -47,6 +47,19 @@ NoteScreen frmDNNETNoAccess(const QString& userName, const QString& process)
     return note;
 }
 
+NoteScreen frmDNNETRLocked(const HeldLock& lock, bool mayRemove)
+{
+    NoteScreen note = makeNote("frmDNNETRLocked", "Record Locked");
+    note->addValue("Table Name:", "lblTABLENAME", lock.tableName);
+    note->addValue("User Name: ", "lblUSERNAME", lock.userName);
+    note->addValue("Date/Time:", "lblRLTIMESTAMP", lock.takenAt);
+    note->addText("lblText", "The Record you are attemping to access is locked by the above user.");
+    addOk(*note);
+    QPushButton* remove = note->addClosingButton("cmdREMOVE", "&Remove Lock", removesLock);
+    remove->setHidden(!mayRemove);
+    return note;
+}
+
 NoteScreen frmZORUpdateHistory(const UpdateHistory& history)
 {
     NoteScreen note = makeNote("frmZORUpdateHistory", "Update Information");

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "core/stamps.h"
+#include "multiuser/record_locks.h"
 #include "screens/small_dialog.h"
 
 using NoteScreen = std::unique_ptr<SmallDialog>;
@@ -13,6 +14,11 @@ NoteScreen frmAboutView(const QString& title, const QString& moduleName, const Q
 
 // The user may not run the process.
 NoteScreen frmDNNETNoAccess(const QString& userName, const QString& process);
+
+// Who has the record. Its result is `removesLock` when the user takes the lock away, which is
+// offered where `mayRemove`.
+NoteScreen frmDNNETRLocked(const HeldLock& lock, bool mayRemove);
+inline constexpr int removesLock = 2;
 
 // Who made a record and who last changed it.
 NoteScreen frmZORUpdateHistory(const UpdateHistory& history);
