@@ -1,19 +1,24 @@
 // vexley_bench [NAME]: runs the benchmarks whose names contain NAME.
 // vexley_bench --worker ROLE FILE COUNT: one of the processes of a contention benchmark.
-#include <QCoreApplication>
+#include <QApplication>
 
 #include "benchmarks/bench_report.h"
 #include "benchmarks/bench_site.h"
 
 void registerStoreBenchmarks();
 void registerContentionBenchmarks();
+void registerPrintBenchmarks();
 void registerSearchBenchmarks();
+void registerBrowseBenchmarks();
 void registerWorkbookBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 int main(int argc, char** argv)
 {
-    const QCoreApplication application(argc, argv);
+    // Nobody has to watch: without a display, and without one chosen, windows are drawn in memory.
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
     if (arguments.value(1) == "--worker")
         return runContentionWorker(arguments.mid(2));
@@ -24,7 +29,9 @@ int main(int argc, char** argv)
     benchmark::Initialize(&optionCount, options);
     registerStoreBenchmarks();
     registerContentionBenchmarks();
+    registerPrintBenchmarks();
     registerSearchBenchmarks();
+    registerBrowseBenchmarks();
     registerWorkbookBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }

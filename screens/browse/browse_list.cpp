@@ -85,7 +85,7 @@ void BrowseList::findEnds()
     if (!any || (!withinFilter() && !step(true)))
         return;
     BrowseFirst = m_rows.Bookmark();
-    m_rows.seekLast(keys);
+    keys.empty() ? m_rows.MoveLast() : m_rows.seekLast(keys);
     if (withinFilter() || step(false))
         BrowseLast = m_rows.Bookmark();
 }

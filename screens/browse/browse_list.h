@@ -19,7 +19,7 @@ struct BrowseSource
     QString folder;  // blank: the current directory
     QString file;
     QString table;
-    QString index;
+    QString index;  // blank: physical order
     std::vector<KeyField> parent;
     // A narrower filter within the parent, where there is one.
     std::function<bool(storage::Recordset&)> accepts;

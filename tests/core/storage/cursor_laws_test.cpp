@@ -32,6 +32,8 @@ private:
     IndexDefinition randomIndex(int number);
     RecordId anyId();
     bool disturbs(const Handle& self) const;
+    void verifyPosition(Handle& handle);
+    static bool differ(const TableModel::Row& a, const TableModel::Row& b);
 
     void expectError(int expected, const std::function<void()>& action);
     void chooseIndex(Handle& handle);
@@ -277,6 +279,49 @@ void CursorLaws::verify(Handle& handle)
     ASSERT_EQ(QString::number(model.id), bookmark) << trace;
     const int field = dice(int(fields.size()));
     ASSERT_EQ(model.seen[size_t(field)], handle.rs.Fields(field).value()) << trace;
+    if (dice(4) == 0)
+        verifyPosition(handle);
+}
+
+// Where the record stands among those that share its first keys, and the way back to it.
+void CursorLaws::verifyPosition(Handle& handle)
+{
+    const CursorModel& model = handle.model;
+    if (model.place != Place::OnRecord || !m_model.rows.count(model.id))
+        return;
+    std::vector<Value> parent;
+    TableModel prefix;
+    prefix.definition.fields = m_model.definition.fields;
+    prefix.definition.indexes.emplace_back();
+    if (model.index >= 0)
+        for (const QString& key : m_model.definition.indexes[size_t(model.index)].fields) {
+            if (dice(2) == 0)
+                break;
+            parent.push_back(model.seen[size_t(m_model.definition.fieldPosition(key))]);
+            prefix.definition.indexes[0].fields.push_back(key);
+        }
+    qint64 count = 0;
+    qint64 before = 0;
+    for (const auto& [id, row] : m_model.rows) {
+        if (prefix.compare(0, row, 1, model.seen, 1) != 0)
+            continue;
+        ++count;
+        before += m_model.compare(model.index, row, id, model.seen, model.id) < 0 ? 1 : 0;
+    }
+    ASSERT_EQ(handle.rs.countWithin(parent), count) << trace;
+    ASSERT_EQ(handle.rs.countBefore(parent), before) << trace;
+    if (differ(m_model.rows.at(model.id), model.seen))
+        return;  // another handle has moved it along the index
+    ASSERT_TRUE(handle.rs.moveTo(parent, before)) << trace;
+    ASSERT_EQ(handle.rs.Bookmark(), QString::number(model.id)) << trace;
+}
+
+bool CursorLaws::differ(const TableModel::Row& a, const TableModel::Row& b)
+{
+    for (size_t field = 0; field < a.size(); ++field)
+        if (compareValues(a[field], b[field]) != 0)
+            return true;
+    return false;
 }
 
 void CursorLaws::operate()
