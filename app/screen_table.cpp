@@ -8,7 +8,9 @@
 #include "purchasing/terms_codes.h"
 #include "screens/browse/browse_window.h"
 #include "screens/job_sites.h"
+#include "screens/desktop.h"
 #include "screens/network_settings.h"
+#include "screens/report/report_selector.h"
 
 namespace {
 
@@ -23,6 +25,16 @@ QWidget* networkSettings(const ScreenContext& context)
     return new frmNETSET(context.session, context.mode);
 }
 
+QWidget* reportSelector(const ScreenContext& context)
+{
+    return new frmVEXReportSelector(context.session, [context](const QString& name) {
+        const ScreenFactory* factory = findScreen(name);
+        if (factory)
+            openScreen(factory->create(context));
+        return factory != nullptr;
+    });
+}
+
 constexpr ScreenFactory screens[] = {
     {"frmCCBQSHIP01", browse<frmCCBQSHIP01>},
     {"frmDBPBrowse", browse<frmDBPBrowse>},
@@ -34,6 +46,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
     {"frmVEXMC01", browse<frmVEXMC01>},
     {"frmVEXRT01", browse<frmVEXRT01>},
+    {"frmVEXReportSelector", reportSelector},
     {"frmVEXSHIPTO01", browse<frmVEXSHIPTO01>},
     {"frmVEXSHIPVIA01", browse<frmVEXSHIPVIA01>},
     {"frmVEXTRMC01", browse<frmVEXTRMC01>},

@@ -69,9 +69,9 @@ QStringList foldersIn(const QString& folder)
     return entriesOf(folder, {}, QDir::Dirs);
 }
 
-QStringList databasesIn(const QString& folder)
+QStringList filesIn(const QString& folder, const QString& pattern)
 {
-    return entriesOf(folder, {"*.mdb"}, QDir::Files);
+    return entriesOf(folder, pattern.split(';'), QDir::Files);
 }
 
 QString parentFolder(const QString& folder)

@@ -19,7 +19,7 @@ bool canBeRead(const QString& folder);
 
 // Names, sorted; empty for a folder that cannot be read.
 QStringList foldersIn(const QString& folder);
-QStringList databasesIn(const QString& folder);
+QStringList filesIn(const QString& folder, const QString& pattern);  // "*.xls;*.xlsx"
 
 // Blank for a drive's root.
 QString parentFolder(const QString& folder);

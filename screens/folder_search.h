@@ -1,11 +1,9 @@
 // The picker of a folder that holds database files: drive, folders and the files of the folder.
 #pragma once
 
-#include "screens/folder_places.h"
 #include "screens/small_dialog.h"
 
-class QComboBox;
-class QListWidget;
+class FolderLists;
 
 class frmDBPSearch : public SmallDialog
 {
@@ -14,25 +12,10 @@ public:
     explicit frmDBPSearch(const QString& path);
 
     // The folder shown in lblPATHNAME; the choice when the dialog was accepted.
-    QString pathName() const { return m_folder; }
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    QString pathName() const;
 
 private:
-    void build();
-    void takeDrive(int row);
-    void enter(const QString& name);
-    void goTo(const QString& folder);
-    void goUp();
-    void showDriveOfFolder();
-
-    QList<Drive> m_drives;
-    QComboBox* m_drive;
-    QListWidget* m_folders;
-    QListWidget* m_files;
-    QLabel* m_pathName;
-    QString m_folder;
+    FolderLists* m_lists;
 };
 
 // Runs the picker; blank after a cancel.

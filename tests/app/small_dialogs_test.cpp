@@ -3,6 +3,7 @@
 #include <QDir>
 
 #include "core/storage/storage_error.h"
+#include "screens/folder_places.h"
 #include "screens/folder_search.h"
 #include "screens/job_site_choice.h"
 #include "screens/load_error.h"
