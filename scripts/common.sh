@@ -2,7 +2,7 @@
 
 packages="build-essential cmake ninja-build ccache pkg-config
     qt6-base-dev libgl-dev libxkbcommon-dev
-    libsqlite3-dev libzip-dev libgsf-1-dev libxlsxwriter-dev libfreexl-dev
+    libsqlite3-dev libzip-dev libgsf-1-dev libxlsxwriter-dev
     libgtest-dev libgmock-dev libbenchmark-dev
     fonts-liberation poppler-utils"
 

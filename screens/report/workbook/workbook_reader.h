@@ -3,8 +3,6 @@
 //
 // A cell is null, a number, a text, a boolean, or a date where its number is shown as one; a time
 // of day without a date is the text "HH:MM:SS". Formulas give the value that was stored with them.
-// An `.xls` with a text beyond some 16,000 characters is taken for damaged: its library cannot read
-// a text that goes on in more than one further record.
 #pragma once
 
 #include <QString>

@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 #include <zip.h>
 
+#include <QBuffer>
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include "screens/report/workbook/biff_records.h"
+#include "screens/report/workbook/compound_file.h"
 #include "screens/report/workbook/number_form.h"
 #include "screens/report/workbook/workbook_writer.h"
 #include "tests/support/printing.h"
@@ -72,6 +75,15 @@ protected:
         return file;
     }
 
+    // An old workbook of one stream.
+    QString container(const char* streamName, const QByteArray& stream) const
+    {
+        QBuffer buffer;
+        buffer.open(QIODevice::WriteOnly);
+        EXPECT_TRUE(writeCompoundFile(buffer, streamName, stream));
+        return write("container.xls", buffer.data());
+    }
+
     QString sheet(const QByteArray& rows) const
     {
         return package({{"xl/worksheets/one.xml",
@@ -98,7 +110,7 @@ TEST_F(WorkbookReading, GivesWhatWasWrittenInBothForms)
         writer->beginSheet("Größe");
         writer->writeRow({"00123", 1.5, storage::Value(), "_x0041_"});
         writer->writeRow({});
-        writer->writeRow({storage::Value(), "配管\n<é>", QString(16000, 'x')});
+        writer->writeRow({storage::Value(), "配管\n<é>", QString(32767, 'x')});
         writer->beginSheet("Second");
         writer->finish();
         const std::vector<WorkbookSheet> sheets = readWorkbook(path(name));
@@ -113,11 +125,89 @@ TEST_F(WorkbookReading, GivesWhatWasWrittenInBothForms)
         EXPECT_TRUE(sheet.cell(1, 3).isNull());
         EXPECT_EQ(sheet.cell(1, 4).toString(), "_x0041_") << name;
         EXPECT_EQ(sheet.cell(3, 2).toString(), "配管\n<é>");
-        EXPECT_EQ(sheet.cell(3, 3).toString(), QString(16000, 'x'));
+        EXPECT_EQ(sheet.cell(3, 3).toString(), QString(32767, 'x'));
         for (const auto& [row, column] : {std::pair{0, 1}, {1, 0}, {2, 1}, {4, 1}, {1, 5}})
             EXPECT_TRUE(sheet.cell(row, column).isNull());
         EXPECT_EQ(sheets[1].rowCount(), 0);
     }
+}
+
+TEST_F(WorkbookReading, TakesWhatOtherProgramsWrite)
+{
+    for (const char* name : {"others.xls", "others.xlsx"}) {
+        QProcess writer;
+        writer.start("/usr/bin/python3", {WRITE_WORKBOOK, path(name)});
+        ASSERT_TRUE(writer.waitForFinished(100000));
+        ASSERT_EQ(writer.exitCode(), 0) << writer.readAllStandardError().toStdString();
+        const std::vector<WorkbookSheet> sheets = readWorkbook(path(name));
+        ASSERT_EQ(sheets.size(), 2U);
+        EXPECT_EQ(sheets[0].name(), "One");
+        const WorkbookSheet& two = sheets[1];
+        EXPECT_EQ(two.cell(1, 1).toString(), "00123");
+        const double numbers[] = {12, 1.25, -7, 1e300, 1234567890};
+        for (int at = 0; at < 5; ++at)
+            EXPECT_EQ(two.cell(1, at + 2), storage::Value(numbers[at])) << name;
+        EXPECT_EQ(two.cell(1, 7), storage::Value(true));
+        EXPECT_EQ(two.cell(1, 8), storage::Value(false));
+        EXPECT_TRUE(two.cell(2, 1).isNull());
+        EXPECT_EQ(two.cell(2, 2).toString(), "Größe 配管");
+        EXPECT_EQ(two.cell(2, 3).toDateTime(), QDate(2026, 3, 7).startOfDay());
+        EXPECT_EQ(two.cell(2, 4).toDateTime(), QDateTime(QDate(2026, 3, 7), QTime(18, 30, 15)));
+        EXPECT_EQ(two.cell(2, 5).toString(), "06:45:00");
+        EXPECT_EQ(two.cell(2, 8).toString(), "last");
+        EXPECT_EQ(two.cell(4, 4), storage::Value(4.5));
+        EXPECT_EQ(two.cell(5, 1).toString(), "rich text");
+        EXPECT_EQ(two.cell(6, 1).toString(), QString("long").repeated(8000));
+        EXPECT_EQ(two.rowCount(), 6);
+    }
+}
+
+TEST_F(WorkbookReading, TakesEveryKindOfRecord)
+{
+    const auto cell = [](BiffStream& stream, quint16 number, quint16 length, quint16 column) {
+        stream.record(number, length);
+        return &stream.put16(0).put16(column).put16(0);
+    };
+    BiffStream stream;
+    stream.record(0x0809, 4);  // the old version, with texts of bytes
+    stream.put16(0x0500).put16(5);
+    stream.record(0x0085, 11);
+    const qsizetype place = stream.size();
+    stream.put32(0).put16(0).put8(4);
+    stream.append("Main");
+    stream.record(0x000a, 0);
+    stream.patch32(place, static_cast<quint32>(stream.size()));
+    stream.record(0x0809, 4);
+    stream.put16(0x0500).put16(16);
+    cell(stream, 0x0204, 11, 0)->put16(3).append("Lab");
+    cell(stream, 0x027e, 10, 1)->put32((1234U << 2) | 3);  // 12.34
+    cell(stream, 0x027e, 10, 2)->put32(static_cast<quint32>(-5 * 4) | 2);
+    stream.record(0x00bd, 18);
+    stream.put16(0).put16(3).put16(0).put32(7 << 2 | 2).put16(0).put32(0x3ff80000).put16(4);
+    cell(stream, 0x0205, 8, 5)->put8(0x07).put8(1);
+    cell(stream, 0x0006, 22, 6)->putDouble(2.5).putZeros(8);
+    cell(stream, 0x0006, 22, 7)->put32(0).put32(0xffff0000).putZeros(8);
+    stream.record(0x0207, 5);
+    stream.put16(3).append("sum");
+    cell(stream, 0x0006, 22, 8)->put32(1 | 1 << 16).put32(0xffff0000).putZeros(8);
+    stream.record(0x0809, 4);  // a chart in the sheet
+    stream.put16(0x0500).put16(0x20);
+    cell(stream, 0x0204, 11, 0)->put16(3).append("cht");
+    stream.record(0x000a, 0);
+    stream.record(0x000a, 0);
+    const auto sheets = readWorkbook(container("Book", stream.bytes()));
+    ASSERT_EQ(sheets.size(), 1U);
+    const WorkbookSheet& main = sheets[0];
+    EXPECT_EQ(main.name(), "Main");
+    EXPECT_EQ(main.cell(1, 1).toString(), "Lab");
+    EXPECT_EQ(main.cell(1, 2), storage::Value(12.34));
+    EXPECT_EQ(main.cell(1, 3), storage::Value(-5));
+    EXPECT_EQ(main.cell(1, 4), storage::Value(7));
+    EXPECT_EQ(main.cell(1, 5), storage::Value(1.5));
+    EXPECT_EQ(main.cell(1, 6).toString(), "#DIV/0!");
+    EXPECT_EQ(main.cell(1, 7), storage::Value(2.5));
+    EXPECT_EQ(main.cell(1, 8).toString(), "sum");
+    EXPECT_EQ(main.cell(1, 9), storage::Value(true));
 }
 
 TEST_F(WorkbookReading, TakesEveryKindOfCell)
@@ -166,6 +256,8 @@ TEST_F(WorkbookReading, RefusesWhatIsNoWorkbook)
     EXPECT_EQ(refusal(folder.path()).section(' ', 0, 1), "Cannot find") << "a folder";
     EXPECT_EQ(refusal(write("empty.xls", "")), "The file is not a workbook");
     EXPECT_EQ(refusal(write("text.xls", "PO,Item\n1,2\n")), "The file is not a workbook");
+    EXPECT_EQ(refusal(container("Letter", "Dear")), "The file is not a workbook, or it is damaged");
+    EXPECT_EQ(refusal(container("Workbook", "PO,Item")), "The workbook is damaged");
     EXPECT_EQ(refusal(package({{"xl/workbook.xml", "<html><body>"}})), "The workbook is damaged");
     EXPECT_EQ(refusal(sheet("<row><c t='s'><v>3</v></c></row>")), "The workbook is damaged");
     EXPECT_EQ(refusal(sheet("<row><c t='s'><v>-1</v></c></row>")), "The workbook is damaged");
@@ -177,10 +269,15 @@ TEST_F(WorkbookReading, RefusesWhatIsNoWorkbook)
 
 TEST_F(WorkbookReading, RefusesWhatIsProtected)
 {
-    const QString name = "EncryptedPackage";
-    const QByteArray wide(reinterpret_cast<const char*>(name.utf16()), name.size() * 2);
-    const QByteArray head = "\xd0\xcf\x11\xe0\xa1\xb1\x1a\xe1" + QByteArray(504, '\0');
-    EXPECT_EQ(refusal(write("new.xlsx", head + wide)), "The workbook is protected by a password");
+    EXPECT_EQ(refusal(container("EncryptedPackage", "secret")),
+              "The workbook is protected by a password");
+    BiffStream stream;
+    stream.record(0x0809, 4);
+    stream.put16(0x0600).put16(5);
+    stream.record(0x002f, 2);
+    stream.put16(1);
+    EXPECT_EQ(refusal(container("Workbook", stream.bytes())),
+              "The workbook is protected by a password");
     EXPECT_EQ(refusal(package({}, true)), "The workbook is protected by a password");
 }
 
