@@ -48,6 +48,17 @@ public:
     const QRawFont& raw() const { return m_raw; }
     bool isStandIn() const { return m_isStandIn; }
 
+    // The face in a size in twips; kept, because making one costs more than drawing with it.
+    const QRawFont& inSize(double twips) const
+    {
+        const auto known = m_sizes.constFind(twips);
+        if (known != m_sizes.cend())
+            return *known;
+        QRawFont sized = m_raw;
+        sized.setPixelSize(twips);
+        return *m_sizes.insert(twips, sized);
+    }
+
 private:
     Glyph lookUp(char32_t code) const
     {
@@ -63,6 +74,7 @@ private:
     bool m_isStandIn = false;
     std::array<Glyph, 256> m_common;
     mutable QHash<char32_t, Glyph> m_others;
+    mutable QHash<double, QRawFont> m_sizes;
 };
 
 const Face& faceOf(const PageFont& font)
@@ -217,9 +229,7 @@ QGlyphRun glyphsOf(const QString& text, const PageFont& font)
     QGlyphRun run;
     if (!hasAll)
         return run;
-    QRawFont raw = face.raw();
-    raw.setPixelSize(font.size * twipsPerPoint);
-    run.setRawFont(raw);
+    run.setRawFont(face.inSize(font.size * twipsPerPoint));
     run.setGlyphIndexes(indexes);
     run.setPositions(places);
     return run;
