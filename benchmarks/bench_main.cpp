@@ -1,6 +1,7 @@
 // vexley_bench [NAME]: runs the benchmarks whose names contain NAME.
 // vexley_bench --worker ROLE FILE COUNT: one of the processes of a contention benchmark.
 #include <QApplication>
+#include <cstdio>
 
 #include "benchmarks/bench_report.h"
 #include "benchmarks/bench_site.h"
@@ -13,8 +14,16 @@ void registerBrowseBenchmarks();
 void registerWorkbookBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
+// Windows drawn in memory say of each that they are.
+static void dropPlatformRemarks(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    if (!text.startsWith("This plugin does not support"))
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
 int main(int argc, char** argv)
 {
+    qInstallMessageHandler(dropPlatformRemarks);
     // Nobody has to watch: without a display, and without one chosen, windows are drawn in memory.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");

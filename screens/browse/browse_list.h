@@ -16,13 +16,13 @@
 // What is browsed. The parent's keys are the first fields of the index.
 struct BrowseSource
 {
-    QString folder;  // blank: the current directory
+    QString folder = {};  // blank: the current directory
     QString file;
     QString table;
-    QString index;  // blank: physical order
-    std::vector<KeyField> parent;
+    QString index = {};  // blank: physical order
+    std::vector<KeyField> parent = {};
     // A narrower filter within the parent, where there is one.
-    std::function<bool(storage::Recordset&)> accepts;
+    std::function<bool(storage::Recordset&)> accepts = {};
 };
 
 struct BrowseLine

@@ -298,8 +298,6 @@ void BrowseWindow::fieldLeft(int entry)
         return;
     takeTexts();
     runCommand([&] { m_session.validate(entry); });
-    if (m_session.errors().hasError(entry + 1))
-        soundError();
     if (m_fields[static_cast<size_t>(entry)]->text() != m_session.text(entry))
         m_fields[static_cast<size_t>(entry)]->setText(m_session.text(entry));
     showErrors();

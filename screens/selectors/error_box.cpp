@@ -99,16 +99,11 @@ void tqErrorBox::showErrors(const ErrorCollector& errors)
     setVisible(m_errors.ErrorCount() > 0);
 }
 
-void soundError()
-{
-    dnPlaySound(errorSound);
-}
-
 void dnShowError(tqErrorBox& box, QWidget& field, int fieldNo, const QString& text)
 {
     box.show();
     box.AddError(text, fieldNo);
-    soundError();
+    dnPlaySound(errorSound);
     markError(field, true);
 }
 

@@ -40,8 +40,6 @@ void dnClearError(tqErrorBox& box, QWidget& field, int fieldNo);
 // Forgets all errors and unmarks every text field of the screen.
 void dnResetErrors(tqErrorBox& box, QWidget& screen);
 
-// The sound of an error, where there is one.
-void soundError();
 // Gives a field or label the colour of errors, or its own again: a background that its text can be
 // read on in a light and in a dark palette.
 void markError(QWidget& widget, bool isError);

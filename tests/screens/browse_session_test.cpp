@@ -125,9 +125,10 @@ TEST_F(BrowseSessionTest, RefusesWhatTheColumnCannotHoldAndKeepsTheEntry)
     chooseCompany(1);
     screen.add();
     type("12345678901", "eleven characters for ten");
-    user.expect("Cannot Update",
-                "The field 'GLCODE' is too small to accept the amount of data you attempted to "
-                "add.");
+    user.expect(
+        "Cannot Update",
+        "Errors Detected: 1\nThe field 'GLCODE' is too small to accept the amount of data you "
+        "attempted to add.");
     EXPECT_FALSE(screen.update());
     EXPECT_EQ(screen.EditMode, "A");
     EXPECT_EQ(screen.text(1), "eleven characters for ten");
