@@ -3,8 +3,11 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryFile>
+#include <QXmlStreamReader>
 #include <cmath>
 #include <cstdio>
+
+#include "screens/report/workbook/xlsx_package.h"
 
 namespace {
 
@@ -81,6 +84,7 @@ void XlsxWriter::addSheet(const QString& name, const std::vector<double>& widths
     m_sheet = workbook_add_worksheet(m_workbook, name.toUtf8().constData());
     if (!m_sheet)
         throw WorkbookError("Cannot write the workbook " + m_file + ".");
+    ++m_sheetCount;
     lxw_col_t column = 0;
     for (const double width : widths) {
         if (width > 0)
@@ -95,23 +99,49 @@ void XlsxWriter::addRow(int row, const WorkbookRow& cells, bool bold)
     lxw_col_t column = 0;
     for (const storage::Value& cell : cells) {
         if (cell.as<QString>() || cell.as<QDateTime>() || cell.as<QByteArray>()) {
-            const QString text = workbookText(cell.toString());
-            const bool isShort = text.size() <= maxShownAsText;
-            lxw_format* format =
-                bold ? (isShort ? m_boldText : m_bold) : (isShort ? m_text : m_plain);
-            if (!text.isEmpty())
-                check(worksheet_write_string(m_sheet, place, column, cellText(text).constData(),
-                                             format));
+            addText(cell.toString(), place, column, bold);
         } else if (const double value = cell.toDouble(); !cell.isNull() && std::isfinite(value)) {
             check(worksheet_write_number(m_sheet, place, column, value, bold ? m_bold : m_plain));
+            ++m_cellCount;
         }
         ++column;
     }
 }
 
+void XlsxWriter::addText(const QString& text, lxw_row_t row, lxw_col_t column, bool bold)
+{
+    const QString clean = workbookText(text);
+    if (clean.isEmpty())
+        return;
+    const bool isShort = clean.size() <= maxShownAsText;
+    lxw_format* format = bold ? (isShort ? m_boldText : m_bold) : (isShort ? m_text : m_plain);
+    check(worksheet_write_string(m_sheet, row, column, cellText(clean).constData(), format));
+    ++m_cellCount;
+}
+
+// The library does not look whether its own temporary files were written: on a full disk it closes
+// a workbook in which rows are missing.
+void XlsxWriter::checkWhole() const
+{
+    constexpr qint64 any = std::numeric_limits<qint64>::max();
+    qint64 count = 0;
+    try {
+        XlsxPackage package(m_temporary,
+                            {.fileBytes = any, .unpackedBytes = any, .ratio = any >> 40});
+        for (int sheet = 1; sheet <= m_sheetCount; ++sheet)
+            package.read(QString("xl/worksheets/sheet%1.xml").arg(sheet),
+                         [&](QXmlStreamReader& xml) { count += xml.name() == u"c"; });
+    } catch (const WorkbookError&) {
+        count = -1;
+    }
+    if (count != m_cellCount)
+        throw WorkbookError("Cannot write the workbook " + m_file + ": the disk may be full.");
+}
+
 void XlsxWriter::finish()
 {
     check(workbook_close(std::exchange(m_workbook, nullptr)));
+    checkWhole();
     // Readable by those who may read new files here; the temporary one was for its owner alone.
     QFile::setPermissions(m_temporary,
                           QFile::permissions(m_temporary) | QFile::ReadGroup | QFile::ReadOther);

@@ -18,13 +18,17 @@ protected:
     void addRow(int row, const WorkbookRow& cells, bool bold) override;
 
 private:
+    void addText(const QString& text, lxw_row_t row, lxw_col_t column, bool bold);
     lxw_format* makeFormat(bool bold, bool isText);
     void check(lxw_error error) const;
+    void checkWhole() const;
 
     QString m_file;
     QString m_temporary;  // beside the file, until it is whole
     lxw_workbook* m_workbook;
     lxw_worksheet* m_sheet = nullptr;
+    int m_sheetCount = 0;
+    qint64 m_cellCount = 0;
     lxw_format* m_plain;
     lxw_format* m_text;
     lxw_format* m_bold;

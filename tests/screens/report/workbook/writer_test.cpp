@@ -1,6 +1,7 @@
 #include "screens/report/workbook/workbook_writer.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 #include <QFile>
 #include <QJsonArray>
@@ -10,6 +11,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <cmath>
+#include <csignal>
 
 #include "tests/support/printing.h"
 
@@ -157,6 +159,28 @@ TEST_P(WorkbookForms, TellWhatFails)
     // A folder of that name stands in the way: known only at the end.
     ASSERT_TRUE(QDir(folder.path()).mkpath(path("taken") + "/inside"));
     EXPECT_THROW(write(path("taken"), 1), WorkbookError);
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
+}
+
+TEST_P(WorkbookForms, NeverStandHalfOnAFullDisk)
+{
+    // Files stop growing in the middle of the rows.
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit before;
+    getrlimit(RLIMIT_FSIZE, &before);
+    rlimit small = before;
+    small.rlim_cur = 200'000;
+    const auto write = [&] {
+        auto writer = createWorkbook(path());
+        for (int row = 0; row < 20000; ++row)
+            writer->writeRow({row, "the same text", row * 1.5});
+        setrlimit(RLIMIT_FSIZE, &small);
+        for (int row = 0; row < 20000; ++row)
+            writer->writeRow({row, "the same text", row * 1.5});
+        writer->finish();
+    };
+    EXPECT_THROW(write(), WorkbookError);
+    setrlimit(RLIMIT_FSIZE, &before);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
