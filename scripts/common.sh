@@ -4,7 +4,7 @@ packages="build-essential cmake ninja-build ccache pkg-config
     qt6-base-dev libgl-dev libxkbcommon-dev
     libsqlite3-dev libzip-dev libgsf-1-dev libxlsxwriter-dev
     libgtest-dev libgmock-dev libbenchmark-dev
-    fonts-liberation poppler-utils"
+    fonts-liberation poppler-utils python3-openpyxl python3-xlrd python3-xlwt"
 
 # Installs what is missing; asks for nothing when all is there.
 install_packages() {
