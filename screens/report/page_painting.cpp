@@ -1,11 +1,13 @@
 #include "screens/report/page_painting.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
 #include <QSaveFile>
 
 #include "core/messages.h"
+#include "screens/progress.h"
 #include "screens/system_dialogs.h"
 
 namespace {
@@ -99,10 +101,13 @@ QPageLayout layoutOf(const PageDocument& document, const Page& page)
 }
 
 // Paints pages `first` to `last` on a paged device.
-bool paintPages(QPagedPaintDevice& device, const PageDocument& document, int first, int last)
+bool paintPages(QPagedPaintDevice& device, const PageDocument& document, int first, int last,
+                const std::function<bool()>& goOn)
 {
     QPainter painter;
     for (int number = first; number <= last; ++number) {
+        if (goOn && !goOn())
+            return false;
         device.setPageLayout(layoutOf(document, document.page(number)));
         if (number == first ? !painter.begin(&device) : !device.newPage())
             return false;
@@ -113,6 +118,18 @@ bool paintPages(QPagedPaintDevice& device, const PageDocument& document, int fir
         painter.restore();
     }
     return painter.end();
+}
+
+// A step for each page that shows how far it is and lets the user stop, and whether he did.
+std::pair<std::function<bool()>, std::shared_ptr<bool>> stoppable(const QString& text)
+{
+    const auto isStopped = std::make_shared<bool>(false);
+    const auto progress = std::make_shared<Progress>(QApplication::activeWindow(), text);
+    return {[progress, isStopped] {
+                *isStopped = *isStopped || !progress->step();
+                return !*isStopped;
+            },
+            isStopped};
 }
 
 }  // namespace
@@ -144,13 +161,18 @@ bool printDocument(const PageDocument& document)
     const int first = std::max(1, printer.fromPage());
     const int last = printer.toPage() > 0 ? std::min(printer.toPage(), document.pageCount())
                                           : document.pageCount();
-    if (first <= last && paintPages(printer, document, first, last))
+    const auto [goOn, isStopped] = stoppable("Printing Page:");
+    if (first <= last && paintPages(printer, document, first, last, goOn))
         return true;
-    showCritical("Printer Error", "Printer Problem Detected");
+    if (*isStopped)
+        printer.abort();
+    else
+        showCritical("Printer Error", "Printer Problem Detected");
     return false;
 }
 
-QString writePdf(const PageDocument& document, const QString& path)
+QString writePdf(const PageDocument& document, const QString& path,
+                 const std::function<bool()>& goOn)
 {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
@@ -160,7 +182,8 @@ QString writePdf(const PageDocument& document, const QString& path)
         QPdfWriter writer(&file);
         writer.setResolution(twipsPerInch);
         writer.setCreator("Vexley Module");
-        painted = document.pageCount() > 0 && paintPages(writer, document, 1, document.pageCount());
+        painted =
+            document.pageCount() > 0 && paintPages(writer, document, 1, document.pageCount(), goOn);
     }
     if (!painted) {
         file.cancelWriting();
@@ -175,7 +198,8 @@ void savePdf(const PageDocument& document, const QString& suggestedName)
         "Save Report as PDF", suggestedName + ".pdf", "PDF Files (*.pdf)");
     if (path.isEmpty())
         return;
-    const QString failure = writePdf(document, path);
-    if (!failure.isEmpty())
+    const auto [goOn, isStopped] = stoppable("Writing Page:");
+    const QString failure = writePdf(document, path, goOn);
+    if (!failure.isEmpty() && !*isStopped)
         showCritical("Cannot Write PDF File", "Cannot Write File: " + path + "\n" + failure);
 }

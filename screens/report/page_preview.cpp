@@ -86,6 +86,12 @@ void PagePreview::refresh()
     m_pdf->setEnabled(m_print->isEnabled());
 }
 
+void PagePreview::restart()
+{
+    m_view->restart();
+    refresh();
+}
+
 void PagePreview::setComplete(bool complete)
 {
     m_isComplete = complete;

@@ -17,8 +17,10 @@ public:
     // The document stays the caller's. `documentName` is offered as the name of a PDF file.
     PagePreview(PageDocument& document, const QString& documentName);
 
-    // After the document has changed.
+    // After the document has got more pages, or the previewed page is another.
     void refresh();
+    // A new document has begun.
+    void restart();
     // While a run goes on pages can be looked at, but neither printed nor saved.
     void setComplete(bool complete);
     PageView& view() { return *m_view; }

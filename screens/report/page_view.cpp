@@ -74,11 +74,21 @@ void PageView::zoomStep(int direction)
 
 void PageView::showPage()
 {
-    if (m_shownPage != m_document.previewPage()) {
-        m_shownPage = m_document.previewPage();
+    const int page = m_document.previewPage();
+    const size_t operations = page == 0 ? 0 : m_document.page(page).operations.size();
+    // While a report is made this comes often, mostly with the same page.
+    if (m_shownPage == page && m_shownOperations == operations)
+        return;
+    if (std::exchange(m_shownPage, page) != page)
         verticalScrollBar()->setValue(0);
-    }
+    m_shownOperations = operations;
     place();
+}
+
+void PageView::restart()
+{
+    m_shownPage = 0;
+    showPage();
 }
 
 void PageView::place()
@@ -162,14 +172,22 @@ void PageView::wheelEvent(QWheelEvent* event)
     event->accept();
 }
 
+bool PageView::takeZoomKey(const QKeyEvent& event)
+{
+    if (!(event.modifiers() & Qt::ControlModifier))
+        return false;
+    const bool isUp = event.key() == Qt::Key_Plus || event.key() == Qt::Key_Equal;
+    if (!isUp && event.key() != Qt::Key_Minus)
+        return false;
+    zoomStep(isUp ? 1 : -1);
+    return true;
+}
+
 void PageView::keyPressEvent(QKeyEvent* event)
 {
     constexpr int step = 60;
-    const bool control = event->modifiers() & Qt::ControlModifier;
-    if (control && (event->key() == Qt::Key_Plus || event->key() == Qt::Key_Equal))
-        return zoomStep(1);
-    if (control && event->key() == Qt::Key_Minus)
-        return zoomStep(-1);
+    if (takeZoomKey(*event))
+        return;
     if (event->key() == Qt::Key_Down || event->key() == Qt::Key_Up) {
         scrollOrTurn(event->key() == Qt::Key_Down ? step : -step);
         return;

@@ -15,14 +15,18 @@ public:
     // The document stays the caller's.
     explicit PageView(PageDocument& document);
 
-    // After the document or its previewed page has changed.
+    // After the previewed page is another, or has got more on it.
     void showPage();
+    // A new document has begun.
+    void restart();
     void setFit(Fit fit);
     // Of the size on paper; stays within 0.1 and 8.
     void setZoom(double zoom);
     double zoom() const;
     // A step of zoom: up for positive ones.
     void zoomStep(int direction);
+    // Ctrl with + or -; true if it was one of these.
+    bool takeZoomKey(const QKeyEvent& event);
 
     std::function<void()> onPageTurned = [] {};
     std::function<void()> onZoomed = [] {};
@@ -44,4 +48,5 @@ private:
     Fit m_fit = Fit::Width;
     double m_zoom = 1;
     int m_shownPage = 0;
+    size_t m_shownOperations = 0;
 };

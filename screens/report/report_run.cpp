@@ -151,6 +151,7 @@ bool dnReportBegin(ReportRun& run, const QString& orientation, const PageMargins
     run.pages.style = {};
     run.m_isStarted = true;
     run.pages.startDocument();
+    run.onChange();
     return true;
 }
 

@@ -36,10 +36,16 @@ ReportWindow::ReportWindow(ReportSpec spec, const Session& session)
     m_run.onChange = [this] { showState(); };
     resize(960, 600);
     showState();
-    if (!m_fields->isHidden() && m_fields->focusPolicy() == Qt::NoFocus)
-        m_fields->setFocus();
-    else
-        m_begin->setFocus();
+    focusFirst();
+}
+
+// The first field, or Begin where the report has none.
+void ReportWindow::focusFirst()
+{
+    QWidget* first = m_fields->nextInFocusChain();
+    while (m_fields->isAncestorOf(first) && !(first->focusPolicy() & Qt::TabFocus))
+        first = first->nextInFocusChain();
+    (m_fields->isAncestorOf(first) ? first : m_begin)->setFocus();
 }
 
 void ReportWindow::buildFields()
@@ -159,6 +165,8 @@ void ReportWindow::showState()
     m_preview->setVisible(hasPages);
     m_emptySpace->setVisible(!hasPages);
     m_preview->setComplete(!isRunning);
+    if (isRunning && m_run.rowCount() == 0)
+        m_preview->restart();
 }
 
 void ReportWindow::keyPressEvent(QKeyEvent* event)
@@ -169,6 +177,8 @@ void ReportWindow::keyPressEvent(QKeyEvent* event)
         m_exit->click();
         return;
     }
+    if (m_preview->view().takeZoomKey(*event))
+        return;
     if (!m_run.isRunning() && m_run.pages.pageCount() > 0 && isPlain) {
         if (event->key() == Qt::Key_P) {
             m_preview->print();

@@ -33,6 +33,7 @@ protected:
 
 private:
     void buildFields();
+    void focusFirst();
     QWidget* buildStrip();
     void pressBegin();
     void pressExit();

@@ -133,7 +133,8 @@ TEST_F(ReportWindows, TakeTheKeysOfPagesAndPrint)
 
     const double before = window.preview().view().zoom();
     QTest::keyClick(&page, Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_GT(window.preview().view().zoom(), before);
+    QTest::keyClick(&control(window, "txtINVNO"), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_GT(window.preview().view().zoom(), before * 1.4);
     press(window, "cmdFitPage");
     EXPECT_LT(window.preview().view().zoom(), before);
 
