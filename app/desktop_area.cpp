@@ -1,6 +1,9 @@
 #include "app/desktop_area.h"
 
+#include <QApplication>
 #include <QMdiSubWindow>
+
+#include "screens/desktop.h"
 
 namespace {
 
@@ -46,6 +49,12 @@ DesktopArea::DesktopArea(const QString& programName) : m_programName(programName
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     takeBackground();
+    connect(this, &QMdiArea::subWindowActivated, this, [](const QMdiSubWindow* window) {
+        if (!window || !window->widget())
+            return;
+        QEvent inFront(screenInFront);
+        QApplication::sendEvent(window->widget(), &inFront);
+    });
 }
 
 void DesktopArea::setSiteName(const QString& siteName)

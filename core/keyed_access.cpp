@@ -84,6 +84,15 @@ Value dnNullCheck(const storage::Field& field)
     }
 }
 
+QString textOf(const storage::Field& field)
+{
+    const Value value = dnNullCheck(field);
+    constexpr int digitsOfSingle = 7;
+    return field.Type() == storage::FieldType::Single
+               ? QString::number(value.toDouble(), 'g', digitsOfSingle)
+               : value.toString();
+}
+
 bool dnInbounds(Recordset& rs, KeyFields keys)
 {
     Q_ASSERT(keys.size() <= mostBoundKeys);

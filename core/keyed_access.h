@@ -42,11 +42,9 @@ QString dnSeek(storage::Recordset& rs, const QString& indexName, KeyFields keys)
 // blanks as a text field is long, one blank for what has no length.
 storage::Value dnNullCheck(const storage::Field& field);
 
-// The same as text, number and so on, the way screens use it.
-inline QString textOf(const storage::Field& field)
-{
-    return dnNullCheck(field).toString();
-}
+// The same as text, number and so on, the way screens use it. A Single has the seven digits that
+// it can hold.
+QString textOf(const storage::Field& field);
 inline QString trimmedTextOf(const storage::Field& field)
 {
     return textOf(field).trimmed();

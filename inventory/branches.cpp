@@ -75,6 +75,7 @@ BrowseSpec frmVEXILC01()
                      .width = 1000,
                      .entry = "txtILCCODE",
                      .upperCase = true,
+                     .alignment = Qt::AlignHCenter,
                      .check =
                          inOrder({required("ILCCODE", "Category Code is Empty."),
                                   unusedCode("ILCCODE", "Duplicate Category Code Detected.")})},

@@ -2,6 +2,7 @@
 // screen stands as a window of its own.
 #pragma once
 
+#include <QEvent>
 #include <QWidget>
 
 class Desktop
@@ -15,6 +16,9 @@ public:
     // Gives the one that was there. The desktop stays the caller's.
     static Desktop* install(Desktop* desktop);
 };
+
+// Sent to a screen each time it comes to the front of the desktop.
+inline constexpr auto screenInFront = static_cast<QEvent::Type>(QEvent::User + 1);
 
 // Opens the screen on the current desktop.
 void openScreen(QWidget* screen);

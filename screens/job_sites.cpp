@@ -102,7 +102,7 @@ BrowseSpec frmDBPBrowse()
                      .tidy = capitalsWithoutSeparator,
                      .check = required("PathText", "Path String is Empty.")}},
         .tag = {.field = "DBTAG", .file = "DBPATHS.mdb", .table = "DBTAGS", .besideProgram = true},
-        .refusals = BrowseSpec::Refusals::BoxWithCancel,
+        .refusals = BrowseSpec::Refusals::BoxToFirstField,
         .deleteQuestion = askToDelete("Job Site:", {"PATHNAME"}, " ", "  ?"),
         .search = [](const BrowseSession&) { return zorSearchJobSite(); },
         .print = {.window = "Print Job Sites", .title = "List of Job Sites"},

@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include "core/messages.h"
 #include "screens/browse/browse_page.h"
 #include "screens/command_runner.h"
 #include "screens/progress.h"
@@ -321,7 +322,8 @@ void BrowseGrid::takeRoom()
 
 bool BrowseGrid::clicked(const QPoint& at, bool isDouble)
 {
-    takeFocus();
+    if (m_view->focusPolicy() != Qt::NoFocus)
+        takeFocus();
     const int row = m_view->rowAt(at.y());
     if (!m_movesEnabled || row < 0)
         return true;
@@ -455,13 +457,20 @@ void BrowseGrid::copyList()
         headings.append(column.heading);
     addLine(headings);
     Progress progress(this, "Copying the list...");
-    bool whole = true;
-    runCommand([&] {
-        m_list.walk([&](const QStringList& cells) {
+    m_positionDue->stop();  // it moves the same handle
+    bool whole = false;
+    bool stopped = false;
+    const bool read = runCommand([&] {
+        whole = m_list.walk([&](const QStringList& cells) {
             addLine(cells);
-            return whole = progress.step();
+            stopped = !progress.step();
+            return !stopped;
         });
     });
     if (whole)
         QApplication::clipboard()->setText(text);
+    else if (read && !stopped)
+        showCritical("Cannot Copy",
+                     "Another user has changed the list while it was copied.\nCopy it again.");
+    refresh();
 }

@@ -33,10 +33,46 @@ void BrowseList::guarded(Move move)
     } catch (const StorageError& error) {
         if (error.errorNumber() != ErrorNumber::RecordDeleted)
             throw;
-        BrowseCurrent = noBookmark;
-        m_fresh = BrowseRow == 0;
         rebuild();
     }
+}
+
+// Others add and delete between the moves: when the page does not show the highlighted record on
+// the highlighted row any more, it is painted anew around the record.
+void BrowseList::settle()
+{
+    const BrowseLine& line = m_lines[static_cast<size_t>(BrowseRow)];
+    const bool shown =
+        isOnRecord() ? line.bookmark == BrowseCurrent : line.kind == BrowseLine::Kind::EndOfList;
+    if (shown || isEmpty())
+        return;
+    keepRowInView();
+    paint();
+}
+
+bool BrowseList::isThere(const QString& bookmark)
+{
+    try {
+        return goTo(bookmark) && withinFilter();
+    } catch (const StorageError& error) {
+        if (error.errorNumber() != ErrorNumber::RecordDeleted)
+            throw;
+        return false;
+    }
+}
+
+// The record nearest to the one in hand, which is gone, of those on the page: below it, above it.
+QString BrowseList::nearestOnPage()
+{
+    const int rows = static_cast<int>(m_lines.size());
+    const auto at = [&](int row) {
+        return row >= 0 && row < rows ? m_lines[static_cast<size_t>(row)].bookmark : noBookmark;
+    };
+    for (int distance = 0; distance < rows; ++distance)
+        for (const QString& bookmark : {at(BrowseRow + distance), at(BrowseRow - distance)})
+            if (!bookmark.isEmpty() && bookmark != BrowseCurrent && isThere(bookmark))
+                return bookmark;
+    return noBookmark;
 }
 
 std::vector<storage::Value> BrowseList::parentKeys() const
@@ -77,25 +113,26 @@ bool BrowseList::goTo(const QString& bookmark)
 
 void BrowseList::findEnds()
 {
-    BrowseFirst = BrowseLast = noBookmark;
-    if (m_rows.RecordCount() == 0)
-        return;
+    QString first = noBookmark;
+    QString last = noBookmark;
     const std::vector<storage::Value> keys = parentKeys();
-    const bool any = keys.empty() ? m_rows.MoveFirst() : m_rows.seekKeys("=", keys);
-    if (!any || (!withinFilter() && !step(true)))
-        return;
-    BrowseFirst = m_rows.Bookmark();
-    keys.empty() ? m_rows.MoveLast() : m_rows.seekLast(keys);
-    if (withinFilter() || step(false))
-        BrowseLast = m_rows.Bookmark();
+    const bool any = m_rows.RecordCount() > 0 &&
+                     (keys.empty() ? m_rows.MoveFirst() : m_rows.seekKeys("=", keys));
+    if (any && (withinFilter() || step(true))) {
+        first = m_rows.Bookmark();
+        keys.empty() ? m_rows.MoveLast() : m_rows.seekLast(keys);
+        if (withinFilter() || step(false))
+            last = m_rows.Bookmark();
+    }
+    BrowseFirst = first;
+    BrowseLast = last;
 }
 
 void BrowseList::fill(const std::vector<KeyField>& parent)
 {
     m_source.parent = parent;
-    BrowseRow = 0;
-    BrowseTop = BrowseCurrent = BrowseFirst = noBookmark;
-    m_fresh = true;
+    BrowseFirst = BrowseLast = noBookmark;
+    showEmpty();
     rebuild();
 }
 
@@ -107,28 +144,24 @@ void BrowseList::clear()
 
 void BrowseList::rebuild()
 {
+    // Opened first: after a failure the list is as it was.
+    storage::Recordset anew = m_database.OpenRecordset(m_source.table);
+    anew.Index(m_source.index);
     m_rows.Close();
-    m_rows = m_database.OpenRecordset(m_source.table);
-    m_rows.Index(m_source.index);
+    m_rows = anew;
     findEnds();
     if (BrowseFirst == noBookmark)
         return showEmpty();
-    if (BrowseCurrent != noBookmark) {
-        try {
-            m_rows.Bookmark(BrowseCurrent);
-            if (!withinFilter())
-                BrowseCurrent = noBookmark;
-        } catch (const StorageError&) {
-            BrowseCurrent = noBookmark;
-        }
-    }
+    BrowseRow = std::min(BrowseRow, BrowseMaxRow);
+    if (isOnRecord() && !isThere(BrowseCurrent))
+        BrowseCurrent = nearestOnPage();
     if (m_fresh && BrowseCurrent == noBookmark) {
         BrowseRow = 0;
         BrowseCurrent = BrowseFirst;
     }
     m_fresh = false;
     keepRowInView();
-    repaint();
+    paint();
 }
 
 void BrowseList::useIndex(const QString& index)
@@ -170,6 +203,11 @@ BrowseLine BrowseList::lineHere()
 
 void BrowseList::repaint()
 {
+    guarded([this] { paint(); });
+}
+
+void BrowseList::paint()
+{
     if (BrowseFirst == noBookmark)
         return showEmpty();
     m_lines.assign(static_cast<size_t>(BrowseMaxRow) + 1, {});
@@ -189,10 +227,11 @@ void BrowseList::show(const QString& bookmark)
     if (bookmark.trimmed().isEmpty())
         return;
     guarded([&] {
-        goTo(bookmark);
+        if (!goTo(bookmark) || !withinFilter())
+            return;
         BrowseTop = BrowseCurrent = bookmark;
         BrowseRow = 0;
-        repaint();
+        paint();
     });
 }
 
@@ -210,7 +249,7 @@ void BrowseList::setRowCount(int rows)
             moveTopForward(BrowseRow - BrowseMaxRow);
             BrowseRow = BrowseMaxRow;
         }
-        repaint();
+        paint();
     });
 }
 
@@ -229,7 +268,7 @@ void BrowseList::nextRow()
         const bool inside = step(true);
         BrowseCurrent = inside ? m_rows.Bookmark() : noBookmark;
         if (++BrowseRow <= BrowseMaxRow)
-            return;
+            return settle();
         // The painted rows shift; only the new one is read.
         BrowseRow = BrowseMaxRow;
         std::rotate(m_lines.begin(), m_lines.begin() + 1, m_lines.end());
@@ -249,9 +288,9 @@ void BrowseList::previousRow()
             if (--BrowseRow < 0) {
                 BrowseRow = 0;
                 BrowseTop = BrowseCurrent;
-                repaint();
+                paint();
             }
-            return;
+            return settle();
         }
         goTo(BrowseCurrent);
         if (!step(false)) {
@@ -260,7 +299,7 @@ void BrowseList::previousRow()
         }
         BrowseCurrent = m_rows.Bookmark();
         if (--BrowseRow >= 0)
-            return;
+            return settle();
         BrowseRow = 0;
         BrowseTop = BrowseCurrent;
         std::rotate(m_lines.begin(), m_lines.end() - 1, m_lines.end());
@@ -270,14 +309,18 @@ void BrowseList::previousRow()
 
 void BrowseList::home()
 {
-    if (!isEmpty())
-        show(BrowseFirst);
+    if (isEmpty())
+        return;
+    guarded([this] { findEnds(); });
+    show(BrowseFirst);
 }
 
 void BrowseList::end()
 {
-    if (!isEmpty())
-        show(BrowseLast);
+    if (isEmpty())
+        return;
+    guarded([this] { findEnds(); });
+    show(BrowseLast);
 }
 
 // How many records lie between row 0 and the one at `bookmark`, which is on the page or below it.
@@ -301,7 +344,8 @@ void BrowseList::pageDown()
                 *place = m_rows.Bookmark();
         }
         BrowseRow = countTo(BrowseCurrent);
-        repaint();
+        paint();
+        settle();
     });
 }
 
@@ -322,7 +366,8 @@ void BrowseList::pageUp()
                 *place = m_rows.Bookmark();
         }
         BrowseRow = countTo(BrowseCurrent);
-        repaint();
+        paint();
+        settle();
     });
 }
 
@@ -366,7 +411,7 @@ int BrowseList::makeEntryRow()
         std::rotate(m_lines.begin(), m_lines.begin() + 1, m_lines.end());
         m_lines.back() = {};
     });
-    return BrowseMaxRow;
+    return std::min(BrowseMaxRow, static_cast<int>(m_lines.size()) - 1);
 }
 
 BrowseList::Position BrowseList::position()
@@ -374,12 +419,18 @@ BrowseList::Position BrowseList::position()
     Position place;
     if (isEmpty())
         return place;
-    guarded([&] {
-        const std::vector<storage::Value> keys = parentKeys();
-        place.count = m_rows.countWithin(keys);
-        place.before = goTo(BrowseTop) ? m_rows.countBefore(keys) : place.count;
-    });
+    const std::vector<storage::Value> keys = parentKeys();
+    place.count = m_rows.countWithin(keys);
+    place.before = isThere(BrowseTop) ? m_rows.countBefore(keys) : place.count;
     return place;
+}
+
+QString BrowseList::neighbour()
+{
+    for (const bool forward : {true, false})
+        if (isThere(BrowseCurrent) && step(forward))
+            return m_rows.Bookmark();
+    return noBookmark;
 }
 
 void BrowseList::showAt(qint64 before)
@@ -394,13 +445,18 @@ void BrowseList::showAt(qint64 before)
     });
 }
 
-void BrowseList::walk(const std::function<bool(const QStringList&)>& take)
+bool BrowseList::walk(const std::function<bool(const QStringList&)>& take)
 {
+    bool whole = false;
     guarded([&] {
-        if (!goTo(BrowseFirst))
-            return;
-        bool inside = withinFilter();
-        while (inside && take(m_readCells(m_rows)))
+        findEnds();
+        bool inside = goTo(BrowseFirst) && withinFilter();
+        while (inside) {
+            if (!take(m_readCells(m_rows)))
+                return;
             inside = step(true);
+        }
+        whole = true;
     });
+    return whole;
 }

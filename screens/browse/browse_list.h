@@ -76,6 +76,8 @@ public:
 
     const std::vector<BrowseLine>& lines() const { return m_lines; }
     bool isEmpty() const { return BrowseFirst == noBookmark; }
+    // The record after the one under the highlight, else the one before it; blank for neither.
+    QString neighbour();
     bool isOnRecord() const { return BrowseCurrent != noBookmark; }
 
     // How many records the list has, and how many lie before row 0. Counted anew: milliseconds on
@@ -88,8 +90,9 @@ public:
     Position position();
     // The record after `before` others to row 0, under the highlight.
     void showAt(qint64 before);
-    // The cells of every record from the first on, while `take` gives true. The page stays.
-    void walk(const std::function<bool(const QStringList&)>& take);
+    // The cells of every record from the first on, while `take` gives true. The page stays. False
+    // when the walk was stopped, or ended by another user's deletion.
+    bool walk(const std::function<bool(const QStringList&)>& take);
 
     // The handle, for whoever writes to the table. Move it freely: each call goes to its own place.
     storage::Recordset& rows() { return m_rows; }
@@ -112,6 +115,10 @@ private:
     bool goTo(const QString& bookmark);
     void findEnds();
     void keepRowInView();
+    void settle();
+    void paint();
+    bool isThere(const QString& bookmark);
+    QString nearestOnPage();
     void moveTopForward(int records);
     int countTo(const QString& bookmark);
     void showEmpty();

@@ -1,4 +1,5 @@
 // The print of a list: what the table report needs, from the description of the screen.
+#include "core/locators.h"
 #include "core/storage/file_paths.h"
 #include "screens/browse/browse_session.h"
 #include "screens/report/table_print.h"
@@ -37,12 +38,15 @@ void BrowseSession::print()
         lengths.append(QString::number(column.length));
         headings.append(column.heading);
         widths.append(QString::number(column.width));
-        formats.append(column.format[0] != '\0' ? column.format : "-");
+        formats.append((column.format[0] != '\0' ? QString(column.format) : QString("-")) +
+                       (column.alignment == Qt::AlignHCenter ? "^" : ""));
     }
     std::vector<PrintKey> keys;
     for (const KeyField& key : m_list.source().parent)
         keys.push_back({key.key, nameOf(key.field)});
-    dnPrint({.file = storage::joinPath(folder(), m_spec.file),
+    const QString file = m_spec.file;
+    dnPrint({.file = m_spec.besideProgram ? locatorPath(file.section('.', 0, 0))
+                                          : storage::joinPath(folder(), file),
              .table = m_spec.table,
              .index = m_spec.index,
              .windowTitle = m_spec.print.window,

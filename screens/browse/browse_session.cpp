@@ -1,5 +1,6 @@
 #include "screens/browse/browse_session.h"
 
+#include "core/keys.h"
 #include "core/number_format.h"
 #include "core/storage/storage_error.h"
 #include "core/tags.h"
@@ -9,6 +10,23 @@
 
 using storage::ErrorNumber;
 using storage::StorageError;
+
+namespace {
+
+bool isNumberLike(storage::FieldType type, const QString& text)
+{
+    using storage::FieldType;
+    if (type == FieldType::Text || type == FieldType::Memo || type == FieldType::Date)
+        return true;
+    QString number = text.trimmed();
+    number.remove(',');
+    bool isNumber = true;
+    if (!number.isEmpty())
+        number.toDouble(&isNumber);
+    return isNumber;
+}
+
+}  // namespace
 
 QString Entry::operator[](schema::FieldName field) const
 {
@@ -46,7 +64,7 @@ bool Entry::isTaken(const QString& index, KeyFields keys) const
     const bool found = rows.seekKeys("=", values);
     const QString bookmark = found ? rows.Bookmark() : QString();
     rows.Index(m_session.list().source().index);
-    return found && (isAdding() || bookmark != m_session.list().BrowseCurrent);
+    return found && (isAdding() || bookmark != m_session.m_edited);
 }
 
 bool Entry::isTakenInParent(const QString& index, KeyFields keys) const
@@ -166,11 +184,12 @@ void BrowseSession::setParent(const std::vector<KeyField>& parent)
 {
     if (!isBrowsing())
         return;
-    m_hasParent = !parent.empty();
-    if (m_hasParent)
-        m_list.fill(parent);
-    else
-        m_list.clear();
+    m_isParentValid = true;
+    m_hasParent = false;
+    if (parent.empty())
+        return m_list.clear();
+    m_list.fill(parent);
+    m_hasParent = true;
 }
 
 const BrowseColumn& BrowseSession::entryColumn(int entry) const
@@ -193,7 +212,7 @@ QStringList BrowseSession::cellsOf(storage::Recordset& rows) const
 
 bool BrowseSession::activeRecordTest(bool needsRecord)
 {
-    if (!m_hasParent) {
+    if (!m_hasParent || !m_isParentValid) {
         showCritical("Error", m_spec.parent.missing);
         return false;
     }
@@ -217,6 +236,7 @@ void BrowseSession::act()
 void BrowseSession::beginEntry(const QString& mode, int row)
 {
     EditMode = mode;
+    m_edited = mode == "E" ? m_list.BrowseCurrent : noBookmark;
     m_entryRow = row;
     m_fieldToFocus = 0;
     m_errors.ClearAll();
@@ -266,14 +286,17 @@ void BrowseSession::leave()
 
 void BrowseSession::setText(int entry, const QString& text)
 {
-    m_texts[entry] = entryColumn(entry).upperCase ? text.toUpper() : text;
+    m_texts[entry] = entryColumn(entry).upperCase ? withTypedCapitals(text) : text;
 }
 
 void BrowseSession::setText(schema::FieldName field, const QString& text)
 {
     for (int i = 0; i < entryCount(); ++i)
-        if (entryColumn(i).field.number() == field.number())
+        if (entryColumn(i).field.number() == field.number()) {
             setText(i, text);
+            m_errors.ClearField(i + 1);
+            m_fieldToFocus = i;
+        }
 }
 
 QString BrowseSession::entryText(schema::FieldName field) const
@@ -282,6 +305,11 @@ QString BrowseSession::entryText(schema::FieldName field) const
         if (entryColumn(i).field.number() == field.number())
             return m_texts.value(i);
     return {};
+}
+
+void BrowseSession::keepEntryInView()
+{
+    m_entryRow = EditMode == "E" ? m_list.BrowseRow : std::min(m_entryRow, m_list.BrowseMaxRow);
 }
 
 // What the screen does not want, then what the column cannot hold.
@@ -295,6 +323,8 @@ QString BrowseSession::refusalOf(int entry)
         return refusal;
     const storage::TableDefinition& table = m_list.rows().definition();
     const auto position = static_cast<size_t>(table.fieldPosition(column.field));
+    if (!isNumberLike(table.fields[position].type, m_texts[entry]))
+        return QString(column.heading) + " is not a Number.";
     try {
         storage::fitted(table.fields[position], valueOf(column, m_texts[entry]));
         return {};
@@ -306,7 +336,7 @@ QString BrowseSession::refusalOf(int entry)
 void BrowseSession::validate(int entry)
 {
     const QString refusal = refusalOf(entry);
-    if (refusal.isEmpty())
+    if (refusal.isEmpty() || m_spec.refusals != BrowseSpec::Refusals::ErrorBox)
         m_errors.ClearField(entry + 1);
     else
         m_errors.AddError(refusal, entry + 1);
@@ -332,7 +362,7 @@ bool BrowseSession::refuseFirst()
         const QString refusal = refusalOf(i);
         if (refusal.isEmpty())
             continue;
-        m_fieldToFocus = i;
+        m_fieldToFocus = m_spec.refusals == BrowseSpec::Refusals::BoxToFirstField ? 0 : i;
         const Answer answer = Messages::current().show({.kind = MessageKind::Critical,
                                                         .title = "Cannot Update Record",
                                                         .text = refusal,
@@ -378,7 +408,7 @@ storage::Value BrowseSession::valueOf(const BrowseColumn& column, const QString&
 bool BrowseSession::goToEdited()
 {
     try {
-        m_list.rows().Bookmark(m_list.BrowseCurrent);
+        m_list.rows().Bookmark(m_edited);
         return true;
     } catch (const StorageError& error) {
         if (error.errorNumber() != ErrorNumber::RecordDeleted)
@@ -407,8 +437,8 @@ bool BrowseSession::write()
             rows.AddNew();
         for (const KeyField& key : m_list.source().parent)
             rows[key.field] = key.key;
-        if (tag != 0)
-            rows.fieldNamed(m_spec.tag.field) = tag;
+        if (EditMode == "A" && m_spec.tag.field[0] != '\0')
+            rows.fieldNamed(m_spec.tag.field) = tag;  // 0, too, after a counter failed
         for (int i = 0; i < entryCount(); ++i) {
             m_fieldToFocus = i;
             rows[entryColumn(i).field] = valueOf(entryColumn(i), m_texts[i]);
@@ -437,8 +467,9 @@ void BrowseSession::remove()
         if (!refusal.isEmpty())
             return showCritical("Cannot Delete", refusal);
     }
-    const QString next = dnNextBookmark(rows, m_list.BrowseCurrent, m_list.source().parent);
-    rows.Bookmark(m_list.BrowseCurrent);
+    const QString next = m_list.neighbour();
+    if (!m_list.goToCurrent())
+        return;
     const Answer answer = Messages::current().show({.kind = MessageKind::Question,
                                                     .title = "Confirm Delete",
                                                     .text = m_spec.deleteQuestion(rows),
@@ -447,13 +478,14 @@ void BrowseSession::remove()
     if (answer != Answer::Ok)
         return;
     try {
+        rows.Bookmark(m_list.BrowseCurrent);
         rows.Delete();
-        m_list.BrowseCurrent = next;
     } catch (const StorageError& error) {
         // Someone was faster; the list shows it.
         if (error.errorNumber() != ErrorNumber::RecordDeleted)
             throw;
     }
+    m_list.BrowseCurrent = next;
     m_list.rebuild();
 }
 

@@ -34,6 +34,9 @@ public:
     // The parent was chosen; an empty one leaves no list. Nothing happens in entry mode.
     void setParent(const std::vector<KeyField>& parent);
     bool hasParent() const { return m_hasParent; }
+    // What stands above the list is no parent now; the list stays that of the last good one, and
+    // commands are refused.
+    void setParentValid(bool valid) { m_isParentValid = valid; }
     // A key of the parent in hand; null without one.
     storage::Value parentKey(schema::FieldName field) const;
 
@@ -48,6 +51,8 @@ public:
     void search();
     void print();
     void run(const BrowseCommand& command);
+    // This screen's number in the window registry, for commands that open a detail screen.
+    qint16 winTag() const { return m_winTag; }
     // The screen is in front again: shows what a detail screen has left.
     void comeToFront();
     // In entry mode. True when the screen is browsing again.
@@ -58,6 +63,8 @@ public:
 
     // ---- the entry
     int entryRow() const { return m_entryRow; }
+    // The page has another number of rows.
+    void keepEntryInView();
     int entryCount() const { return static_cast<int>(m_entryColumns.size()); }
     const BrowseColumn& entryColumn(int entry) const;
     const QString& text(int entry) const { return m_texts[entry]; }
@@ -92,6 +99,8 @@ private:
     Session m_session;
     BrowseList m_list;
     bool m_hasParent = false;
+    bool m_isParentValid = true;
+    QString m_edited = noBookmark;  // the record of the entry in hand
     bool m_editedExisting = false;
     qint16 m_winTag = 0;  // in the window registry, of a list with detail screens
     bool m_openedDetail = false;

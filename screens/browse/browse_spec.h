@@ -116,8 +116,9 @@ struct BrowseSpec
 {
     // How a refused update is told.
     enum class Refusals {
-        ErrorBox,      // beside the fields, and in one box that counts them
-        BoxWithCancel  // a box for the first; Cancel in it leaves the entry
+        ErrorBox,        // beside the fields, and in one box that counts them
+        BoxWithCancel,   // a box for the first; Cancel in it leaves the entry
+        BoxToFirstField  // the same, and OK always goes back to the first field
     };
 
     const char* name;

@@ -10,6 +10,7 @@
 #include "screens/browse/parent_bar.h"
 #include "screens/command_bar.h"
 #include "screens/command_runner.h"
+#include "screens/desktop.h"
 #include "screens/field_keys.h"
 #include "screens/help.h"
 #include "screens/key_line.h"
@@ -178,6 +179,7 @@ void BrowseWindow::load()
 void BrowseWindow::takeParent()
 {
     const std::vector<KeyField> keys = m_parent->keys();
+    m_session.setParentValid(!keys.empty());
     if (!m_session.isBrowsing() || keys.empty())
         return;
     const std::vector<KeyField>& now = m_session.list().source().parent;
@@ -200,6 +202,7 @@ void BrowseWindow::showState()
     m_grid->setEndTexts("End of List",
                         m_parent && !m_session.hasParent() ? m_parent->hint() : "List is Empty");
     m_grid->setMovesEnabled(browsing);
+    m_grid->view()->setFocusPolicy(browsing ? Qt::StrongFocus : Qt::NoFocus);
     m_grid->refresh();
     for (QPushButton* button : m_browsing)
         button->setVisible(browsing);
@@ -229,8 +232,7 @@ void BrowseWindow::showEntry()
     showErrors();
     if (entering && !m_fields.empty())
         m_fields[static_cast<size_t>(m_session.fieldToFocus())]->setFocus(Qt::OtherFocusReason);
-    else if (!entering && m_session.hasParent() &&
-             !(m_parent && m_parent->isAncestorOf(focusWidget())))
+    else if (!entering && m_session.hasParent())
         takeFocus();
 }
 
@@ -240,6 +242,8 @@ void BrowseWindow::takeFocus()
     const QWidget* now = QApplication::focusWidget();
     if (isVisible() && now && !isAncestorOf(now))
         return;  // a command has opened another screen
+    if (m_parent && focusWidget() && m_parent->isAncestorOf(focusWidget()))
+        return;  // the user is choosing
     if (m_parent && !m_session.hasParent())
         m_parent->setFocus(Qt::OtherFocusReason);
     else
@@ -250,6 +254,7 @@ void BrowseWindow::placeFields()
 {
     if (m_session.isBrowsing())
         return;
+    m_session.keepEntryInView();
     int entry = 0;
     const std::vector<BrowseColumn>& columns = m_session.spec().columns;
     for (int i = 0; i < static_cast<int>(columns.size()); ++i)
@@ -363,7 +368,9 @@ bool BrowseWindow::eventFilter(QObject* watched, QEvent* event)
 
 bool BrowseWindow::event(QEvent* event)
 {
-    if (event->type() == QEvent::WindowActivate && m_loaded && m_session.isBrowsing()) {
+    const bool inFront =
+        event->type() == screenInFront || (event->type() == QEvent::WindowActivate && isWindow());
+    if (inFront && m_loaded && m_session.isBrowsing()) {
         run([this] { m_session.comeToFront(); });
         takeFocus();
     }

@@ -68,7 +68,7 @@ public:
         remember("CONOPAIR", m_job->CoNumber());
         remember("JOBNOPAIR", m_job->JobNo());
     }
-    QString hint() const override { return "Select Company/Job Number First."; }
+    QString hint() const override { return "Select Company/Job Number Pair First."; }
 
 private:
     CompanyAndJobBar(const Session& session, tqCoJobNumber* job)
