@@ -250,6 +250,7 @@ void BrowseList::setRowCount(int rows)
             BrowseRow = BrowseMaxRow;
         }
         paint();
+        settle();
     });
 }
 

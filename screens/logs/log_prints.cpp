@@ -38,6 +38,7 @@ ReportSpec frmZORERRLOG02(const QString& word)
 {
     return logPrint<ErrorLog>("frmZORERRLOG02", "Print " + word + " Error Log",
                               {.title = word + " Error Log",
+                               .pageCaption = "Printing Page: ",
                                .columns = {lineColumn("Error Message")},
                                .emptyText = "Error Log is Empty."});
 }
@@ -46,6 +47,7 @@ ReportSpec frmZORPRINTACT()
 {
     return logPrint<ActivityLog>("frmZORPRINTACT", "Print Activity Log",
                                  {.title = "Activity Log",
+                                  .pageCaption = "Printing Page: ",
                                   .columns = {lineColumn("Activity")},
                                   .emptyText = "Activity Log is Empty."});
 }

@@ -59,7 +59,10 @@ void PageSink::beginPage()
     dnReportPageFoot(
         m_pages,
         {.moduleName = m_plan.moduleName, .reportName = m_plan.title, .pageOverride = number});
-    m_y = writeReportTitle(m_pages, m_plan.title, m_plan.headingLines) + belowTitle;
+    QStringList below = m_plan.headingLines;
+    if (!m_plan.pageCaption.isEmpty())
+        below.append(m_plan.pageCaption + dnFormat(number, "####"));
+    m_y = writeReportTitle(m_pages, m_plan.title, below) + belowTitle;
     int headRows = 1;
     for (const ReportColumn& column : m_plan.columns)
         if (column.width > 0 && column.heading.contains('\n'))

@@ -39,6 +39,7 @@ struct ReportPlan
     QString moduleName = "Vexley Module";
     QString title;
     QStringList headingLines = {};
+    QString pageCaption = {};  // "Printing Page: " writes the page's number below the title
     QString orientation = {};  // "P" or "L"; blank: landscape when the columns need it
     std::vector<ReportColumn> columns;
     std::vector<ReportLevel> levels = {};    // the outermost first

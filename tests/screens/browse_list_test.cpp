@@ -149,7 +149,7 @@ TEST_F(BrowseListTest, KeepsTheRowInViewWhenTheTableChanged)
     EXPECT_EQ(page(), "001 004 005 [006] 007 008 009 010") << "no more records above";
     deleteCode("006");
     list.rebuild();
-    EXPECT_TRUE(page().contains("[")) << "the highlight is somewhere";
+    EXPECT_EQ(list.lines()[static_cast<size_t>(list.BrowseRow)].bookmark, list.BrowseCurrent);
 }
 
 TEST_F(BrowseListTest, SurvivesARecordDeletedUnderTheHighlight)
@@ -159,13 +159,13 @@ TEST_F(BrowseListTest, SurvivesARecordDeletedUnderTheHighlight)
     list.nextRow();
     deleteCode("002");
     list.nextRow();
-    EXPECT_FALSE(page().contains("002"));
+    EXPECT_EQ(page(), "001 [003] -") << "its neighbour takes the highlight";
+    deleteCode("001");
     list.home();
-    EXPECT_EQ(page(), "[001] 003 -");
-    list.nextRow();
+    EXPECT_EQ(page(), "[003] -") << "what was the first record is gone, too";
     deleteCode("003");
     EXPECT_FALSE(list.goToCurrent());
-    EXPECT_FALSE(page().contains("003"));
+    EXPECT_EQ(page(), "[=]");
 }
 
 TEST_F(BrowseListTest, MakesRoomForAnEntry)
@@ -200,7 +200,7 @@ TEST_F(BrowseListTest, TakesAsManyRowsAsThereIsRoomFor)
 }
 
 // Whatever the keys, the page is a stretch of the list and the highlight on what it says.
-TEST_F(BrowseListTest, StaysTrueUnderRandomMoves)
+TEST_F(BrowseListTest, StaysTrueUnderRandomMovesAndOthersWork)
 {
     addCodes(1, 3);
     addCodes(2, 30);
@@ -209,6 +209,16 @@ TEST_F(BrowseListTest, StaysTrueUnderRandomMoves)
     std::mt19937 random(7);
     OpenTable codes = site.open("ZORVEX.mdb", "GLCODES");
     for (int i = 0; i < 400; ++i) {
+        bool othersWorked = false;
+        if (random() % 4 == 0) {
+            const int number = 1 + static_cast<int>(random() % 30);
+            codes.rows.Index("GLCODES");
+            othersWorked = true;
+            if (codes.rows.Seek("=", 2, QString("%1").arg(number, 3, 10, QChar('0'))))
+                codes.rows.Delete();
+            else
+                addCode(codes, 2, number);
+        }
         switch (random() % 9) {
             case 0:
                 list.nextRow();
@@ -237,6 +247,8 @@ TEST_F(BrowseListTest, StaysTrueUnderRandomMoves)
             default:
                 list.rebuild();
         }
+        if (list.isEmpty())
+            continue;
         ASSERT_GE(list.BrowseRow, 0);
         ASSERT_LE(list.BrowseRow, list.BrowseMaxRow);
         const BrowseLine& lit = list.lines()[static_cast<size_t>(list.BrowseRow)];
@@ -244,14 +256,12 @@ TEST_F(BrowseListTest, StaysTrueUnderRandomMoves)
             ASSERT_EQ(lit.bookmark, list.BrowseCurrent) << i << qPrintable(page());
         else
             ASSERT_EQ(static_cast<int>(lit.kind), static_cast<int>(Kind::EndOfList)) << i;
-        int before = 0;
-        for (const BrowseLine& line : list.lines()) {
-            if (line.kind != Kind::Record)
-                break;
-            const int number = line.cells[0].toInt();
-            ASSERT_TRUE(before == 0 || number == before + 1) << qPrintable(page());
-            before = number;
-        }
+        if (othersWorked)
+            continue;  // the page may be as it was before
+        list.rebuild();
+        const QString shown = page();
+        list.rebuild();
+        ASSERT_EQ(page(), shown) << "reading anew what did not change moves nothing";
     }
 }
 
