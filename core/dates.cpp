@@ -2,6 +2,7 @@
 
 #include <QRegularExpression>
 #include <QStringList>
+#include <algorithm>
 #include <optional>
 
 #include "core/system.h"
@@ -17,9 +18,9 @@ struct DateParts
 
 bool isNumber(const QString& text)
 {
-    bool ok = false;
-    text.toUInt(&ok);
-    return ok;
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar character) {
+        return character >= '0' && character <= '9';
+    });
 }
 
 QStringList splitDate(const QString& text)
@@ -60,16 +61,18 @@ std::optional<DateParts> readDate(const QString& text, int& pivot)
 {
     mendPivot(pivot);
     const QStringList parts = splitDate(text.trimmed());
-    if (parts.size() < 3)
+    if (parts.size() != 3)
         return std::nullopt;
     const QString month = parts[0].trimmed();
     const QString day = parts[1].trimmed();
     const QString year = parts[2].trimmed();
     if (!isNumber(month) || !isNumber(day) || !isNumber(year))
         return std::nullopt;
-    if (!isDayOfMonth(day.toUInt(), month.toUInt()))
+    // Every result has ten characters, every key eight.
+    if (!isDayOfMonth(day.toUInt(), month.toUInt()) || year.size() == 3 || year.size() > 4)
         return std::nullopt;
-    return DateParts{month.rightJustified(2, '0'), day.rightJustified(2, '0'),
+    return DateParts{QString::number(month.toUInt()).rightJustified(2, '0'),
+                     QString::number(day.toUInt()).rightJustified(2, '0'),
                      withCentury(year, pivot)};
 }
 

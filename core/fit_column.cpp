@@ -10,10 +10,9 @@ constexpr double overflow = 99'999'999;
 
 QString wholeNumber(const QString& text, int size)
 {
-    const double number = storage::Value(text).toDouble();
-    if (number >= overflow)
+    const double whole = std::round(storage::Value(text).toDouble());
+    if (whole >= overflow)
         return QString(size, '?');
-    const double whole = std::round(number);
     return whole == 0 ? QString() : QString::number(whole, 'f', 0);
 }
 

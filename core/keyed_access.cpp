@@ -93,6 +93,26 @@ QString textOf(const storage::Field& field)
                : value.toString();
 }
 
+double numberOf(const storage::Field& field)
+{
+    return field.Type() == storage::FieldType::Single ? textOf(field).toDouble()
+                                                      : dnNullCheck(field).toDouble();
+}
+
+bool goToFound(Recordset& rs, const QString& bookmark)
+{
+    if (bookmark.trimmed().isEmpty())
+        return false;
+    try {
+        rs.Bookmark(bookmark);
+        return true;
+    } catch (const StorageError& error) {
+        if (error.errorNumber() != storage::ErrorNumber::RecordDeleted)
+            throw;
+        return false;
+    }
+}
+
 bool dnInbounds(Recordset& rs, KeyFields keys)
 {
     Q_ASSERT(keys.size() <= mostBoundKeys);

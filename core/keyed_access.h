@@ -49,10 +49,16 @@ inline QString trimmedTextOf(const storage::Field& field)
 {
     return textOf(field).trimmed();
 }
+// The number of a field; of a Single the one that its seven digits tell.
+double numberOf(const storage::Field& field);
 inline int intOf(const storage::Field& field)
 {
     return dnNullCheck(field).toInt();
 }
+
+// Goes to the record that a search window gave; false for no bookmark and for a record that another
+// user has deleted meanwhile.
+bool goToFound(storage::Recordset& rs, const QString& bookmark);
 
 // True if `rs` stands on a record whose fields equal the keys, nulls read as above; at most nine.
 bool dnInbounds(storage::Recordset& rs, KeyFields keys);

@@ -70,7 +70,7 @@ QString withTypedCapitals(QString text)
 
 bool dnNumericKey(QChar key, NumberKeys allowed)
 {
-    if (key.unicode() < ' ' || (key >= '0' && key <= '9'))
+    if (key.category() == QChar::Other_Control || (key >= '0' && key <= '9'))
         return true;
     const bool hasSign =
         allowed == NumberKeys::SignedDigits || allowed == NumberKeys::SignedDecimal;
@@ -109,7 +109,7 @@ std::optional<QString> dnDateKeyEdit(QChar key, const QString& text)
     QDate result;
     if (key == '=' || (key == '+' && isEmptyDate(text)))
         result = System::current().now().date();
-    else if (key == '+' || key == '-')
+    else if ((key == '+' || key == '-') && date.isValid())
         result = date.addDays(key == '+' ? 1 : -1);
     if (!result.isValid())
         return std::nullopt;

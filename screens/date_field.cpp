@@ -48,7 +48,8 @@ QString DateField::date() const
 
 bool DateField::isValid() const
 {
-    return dnNotBlank(date());
+    constexpr char nullDate[] = "01/01/1900";  // the store's word for no date
+    return dnNotBlank(date()) && date() != nullDate;
 }
 
 QString DateField::dateKey() const

@@ -53,11 +53,9 @@ void copyFolder(const Entry& entry, storage::Recordset& rows)
 void selectJobSite(BrowseSession& screen)
 {
     const QString bookmark = zorSearchJobSite();
-    if (bookmark.trimmed().isEmpty())
-        return;
     OpenTable sites = openLocator("DBPATHS");
-    sites.rows.Bookmark(bookmark);
-    screen.setText("PATHNAME", trimmedTextOf(sites.rows["PATHNAME"]));
+    if (goToFound(sites.rows, bookmark))
+        screen.setText("PATHNAME", trimmedTextOf(sites.rows["PATHNAME"]));
 }
 
 QString searchOwnSites(const BrowseSession& screen)

@@ -313,7 +313,7 @@ void BrowseList::home()
     if (isEmpty())
         return;
     guarded([this] { findEnds(); });
-    show(BrowseFirst);
+    isEmpty() ? showEmpty() : show(BrowseFirst);
 }
 
 void BrowseList::end()
@@ -321,7 +321,7 @@ void BrowseList::end()
     if (isEmpty())
         return;
     guarded([this] { findEnds(); });
-    show(BrowseLast);
+    isEmpty() ? showEmpty() : show(BrowseLast);
 }
 
 // How many records lie between row 0 and the one at `bookmark`, which is on the page or below it.

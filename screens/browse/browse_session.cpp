@@ -204,7 +204,7 @@ QStringList BrowseSession::cellsOf(storage::Recordset& rows) const
         if (column.shows)
             cells.append(column.shows(*this, rows));
         else if (column.format[0] != '\0')
-            cells.append(dnFormat(dnNullCheck(rows[column.field]).toDouble(), column.format));
+            cells.append(dnFormat(numberOf(rows[column.field]), column.format));
         else
             cells.append(trimmedTextOf(rows[column.field]));
     return cells;

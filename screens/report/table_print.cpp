@@ -202,9 +202,10 @@ QString PrintedTable::cell(const PrintColumn& column, int position) const
     if (column.type == "B")
         return value.toBool() ? "Yes" : "No";
     if (column.type == "N")
-        return value.isNull()          ? QString()
-               : column.mask.isEmpty() ? textOf(m_table.rows.Fields(position))
-                                       : dnFormat(value.toDouble(), column.mask);
+        return value.isNull() ? QString()
+               : column.mask.isEmpty()
+                   ? textOf(m_table.rows.Fields(position))
+                   : dnFormat(numberOf(m_table.rows.Fields(position)), column.mask);
     QString text = value.toString();
     if (column.length > 0)
         text.truncate(column.length);

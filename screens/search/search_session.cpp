@@ -110,6 +110,8 @@ void SearchSession::textChanged()
         m_list.home();
     else if (seek())
         m_list.show(m_list.rows().Bookmark());
+    else
+        m_list.rebuild();
 }
 
 // To the first record at or after the text, within the parent.
@@ -129,6 +131,8 @@ bool SearchSession::seek()
 bool SearchSession::searchBy(int column)
 {
     SearchColumn& chosen = m_columns[static_cast<size_t>(column)];
+    if (!chosen.isUsed())
+        return false;
     if (dnIsBlank(chosen.index)) {
         showCritical("Search Not Available",
                      "There is no Search Available by Column: " + chosen.heading);
@@ -136,9 +140,9 @@ bool SearchSession::searchBy(int column)
     }
     if (chosen.index == m_columns[0].index)
         return false;
+    m_list.useIndex(chosen.index);
     std::swap(chosen, m_columns[0]);
     m_searchText.clear();
-    m_list.useIndex(m_columns[0].index);
     m_list.home();
     return true;
 }

@@ -119,6 +119,7 @@ QLayout* frmDNSearch::buttons()
     const auto button = [this](const char* name, const char* caption) {
         auto* made = new QPushButton(caption);
         made->setObjectName(name);
+        made->setFocusPolicy(Qt::NoFocus);  // what is typed is always for the search
         return made;
     };
     QPushButton* select = button("cmdSelect", "&Select");

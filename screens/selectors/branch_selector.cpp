@@ -47,11 +47,8 @@ std::vector<CodeChoice> allBranches(const QString& folder)
 
 QString codeAt(const QString& folder, const QString& bookmark)
 {
-    if (bookmark.trimmed().isEmpty())
-        return {};
     OpenTable branches = openBranches(folder);
-    branches.rows.Bookmark(bookmark);
-    return trimmedTextOf(branches.rows["ILCCODE"]);
+    return goToFound(branches.rows, bookmark) ? trimmedTextOf(branches.rows["ILCCODE"]) : QString();
 }
 
 }  // namespace

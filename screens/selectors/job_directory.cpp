@@ -5,7 +5,6 @@
 #include "core/keyed_access.h"
 #include "core/locators.h"
 #include "core/storage/file_paths.h"
-#include "core/storage/storage_error.h"
 #include "core/text.h"
 
 namespace {
@@ -22,14 +21,7 @@ QString fieldAt(const QString& folder, const QString& table, schema::FieldName f
     if (dnIsBlank(folder) || dnIsBlank(bookmark))
         return {};
     OpenTable open = openMain(folder, table);
-    try {
-        open.rows.Bookmark(bookmark);
-        return trimmedTextOf(open.rows[field]);
-    } catch (const storage::StorageError& error) {
-        if (error.errorNumber() != storage::ErrorNumber::RecordDeleted)
-            throw;
-        return {};
-    }
+    return goToFound(open.rows, bookmark) ? trimmedTextOf(open.rows[field]) : QString();
 }
 
 bool isCompanyNumber(int CONO)

@@ -24,6 +24,7 @@ tqJobList::tqJobList(const QString& name)
       m_add(new QPushButton("Add to &List")),
       m_remove(new QPushButton("&Remove"))
 {
+    m_entry->setToolTip({});  // the hint is the whole control's
     m_add->setObjectName("cmdAddJob");
     m_remove->setObjectName("cmdRemoveJob");
     m_list->setObjectName("lstJobs");
@@ -94,6 +95,7 @@ void tqJobList::append(const Pair& pair)
 
 void tqJobList::add()
 {
+    m_entry->checkTyped();
     if (!m_entry->IsValid())
         return showCritical("Error", "Invalid Company/Job Number Pair Detected.");
     append({m_entry->CoNumber(), m_entry->JobNo()});

@@ -35,7 +35,8 @@ public:
     QString code() const;
     // Shows the code and its name.
     void setCode(const QString& code);
-    bool isValid() const { return m_isValid; }
+    // False, too, while another code stands in the field than was checked.
+    bool isValid() const { return m_isValid && code() == m_checked; }
 
     // Looks the code up that stands in the field, even if nobody changed it.
     void check();

@@ -23,6 +23,9 @@ public:
     // An inactive control hints at how to make it active.
     void setActive(bool active);
 
+    // Checks what stands in the fields, for a command that leaves the keyboard there.
+    void checkTyped() { takeTyped(); }
+
 Q_SIGNALS:
     void entered();
     void left();

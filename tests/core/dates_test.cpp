@@ -27,6 +27,9 @@ TEST(Dates, AreReadInEveryFreeForm)
         {"x/2/26", noDate},         {"1/2/", noDate},
         {"12345", noDate},          {"", noDate},
         {"  /  /  ", noDate},       {"5/5/3", "05/05/2003"},
+        {"003/7/26", "03/07/2026"}, {"+1/2/26", noDate},
+        {"1/2/+26", noDate},        {"1/2/20266", noDate},
+        {"1/2/026", noDate},        {"1/2/3/2026", noDate},
     };
     for (const Case& each : cases)
         EXPECT_EQ(dnFixDate(each.typed), each.date) << each.typed;

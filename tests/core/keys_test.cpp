@@ -35,6 +35,7 @@ TEST(Keys, OfNumbersAreDigitsAndWhatTheFieldAllows)
     EXPECT_EQ(withNumericKeysOnly("-1,2.5x", NumberKeys::Decimal), "12.5");
     EXPECT_EQ(withNumericKeysOnly("-1,2.5x", NumberKeys::SignedDecimal), "-12.5");
     EXPECT_TRUE(dnNumericKey(QChar(8), NumberKeys::Digits)) << "Backspace";
+    EXPECT_TRUE(dnNumericKey(QChar(127), NumberKeys::Digits)) << "Delete";
 }
 
 TEST(Keys, HaveTheCharactersOfTheirCodes)

@@ -288,22 +288,27 @@ TEST_P(LookUpTest, GivesARecordOfItsParentAndNoOther)
     }
     site.emptyTable(file, request.TableName);
     OpenTable opened = site.open(file, request.TableName);
-    const auto add = [&](bool inParent) {
+    // In the parent, or in one beside it that differs in its first key.
+    const auto add = [&](int beside) {
         opened.rows.AddNew();
         for (const KeyField& key : request.keys)
-            if (inParent)
-                opened.rows[key.field] = key.key;
+            opened.rows[key.field] = key.key;
+        if (beside != 0)
+            opened.rows[request.keys[0].field] = request.keys[0].key.toInt() + beside;
         opened.rows.Update();
         return opened.rows.LastModified();
     };
-    if (!request.keys.empty())
-        add(false);
-    const QString wanted = add(true);
-    EXPECT_EQ(open([](frmDNSearch& window) {
-                  QTest::keyClick(window.focusWidget(), Qt::Key_End);
-                  press(window, "cmdSelect");
-              }),
-              wanted);
+    if (!request.keys.empty()) {
+        add(-1);
+        add(1);
+    }
+    const QString wanted = add(0);
+    for (const Qt::Key key : {Qt::Key_Home, Qt::Key_End})
+        EXPECT_EQ(open([key](frmDNSearch& window) {
+                      QTest::keyClick(window.focusWidget(), key);
+                      press(window, "cmdSelect");
+                  }),
+                  wanted);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, LookUpTest, testing::ValuesIn(lookUps()),
