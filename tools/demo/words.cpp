@@ -9,7 +9,7 @@ const std::array<TradeWords, tradeCount> trades = {{
      {"Pipe & Supply", "Piping Products", "Fitting House"},
      'P',
      5110},
-    {"150", "Valves", "VL", {"Valve & Controls", "Flow Equipment", "Valve Service"}, 'P', 5120},
+    {"150", "Valves", "VL", {"Valve & Controls", "Flow Equipment", "Valve Service"}, 'V', 5120},
     {"200",
      "Electrical",
      "EL",
