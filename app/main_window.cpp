@@ -11,6 +11,7 @@
 #include "screens/job_site_choice.h"
 #include "screens/notices.h"
 #include "screens/plain_notes.h"
+#include "screens/report/report_run.h"
 #include "screens/splash.h"
 #include "screens/user_layout.h"
 #include "screens/user_settings.h"
@@ -172,6 +173,7 @@ void frmVEXMAIN::showAbout()
 
 void frmVEXMAIN::exitProgram()
 {
+    ReportRun::cancelAll();  // one that lets events in would go on without a window
     savePlace();
     QCoreApplication::exit();
 }

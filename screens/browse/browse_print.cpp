@@ -34,7 +34,8 @@ void BrowseSession::print()
     QStringList formats;
     for (const BrowseColumn& column : m_spec.columns) {
         fields.append(nameOf(column.field));
-        types.append(isText(m_list.typeOf(column.field)) ? "C" : "N");
+        const storage::FieldType type = m_list.typeOf(column.field);
+        types.append(type == storage::FieldType::Boolean ? "B" : isText(type) ? "C" : "N");
         lengths.append(QString::number(column.length));
         headings.append(column.heading);
         widths.append(QString::number(column.width));

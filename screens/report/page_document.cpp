@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr int textBoxPadding = 30;  // beside the text of a box
-
 qint16 onPaper(int place)
 {
     return static_cast<qint16>(std::clamp(place, -32767, 32767));
@@ -141,18 +139,18 @@ void PageDocument::placeAligned(QStringView text, int left, int width, int y)
     placeText(text, x, y);
 }
 
-void PageDocument::drawTextBox(const QString& text, const PageBox& box, bool wraps)
+void PageDocument::drawTextBox(const QString& text, const PageBox& box, bool wraps, int padding)
 {
     if (style.isFilled || style.penWidth > 0)
         drawRectangle(box.left, box.top, box.left + box.width, box.top + box.height);
-    const int room = std::max(0, box.width - 2 * textBoxPadding);
+    const int room = std::max(0, box.width - 2 * padding);
     const QStringList lines = wraps ? wrappedLines(text, style.font, room) : QStringList(text);
     const int height = heightOfLine();
     const int shown = std::clamp(box.height / height, 1, static_cast<int>(lines.size()));
     int y = box.top + std::max(0, (box.height - shown * height) / 2);
     for (int line = 0; line < shown; ++line, y += height) {
         const int fits = fittingLength(lines[line], style.font, room);
-        placeAligned(QStringView(lines[line]).left(fits), box.left + textBoxPadding, room, y);
+        placeAligned(QStringView(lines[line]).left(fits), box.left + padding, room, y);
     }
 }
 

@@ -130,7 +130,8 @@ public:
     // Keeps its proportions, centred in the box. A picture drawn again is kept once.
     void drawPicture(const QImage& picture, const PageBox& box);
     // One line, or as many as fit the box when it wraps, aligned in the box and cut to it.
-    void drawTextBox(const QString& text, const PageBox& box, bool wraps = false);
+    // `padding` is left free on both sides.
+    void drawTextBox(const QString& text, const PageBox& box, bool wraps = false, int padding = 30);
     // A line at the position; centred and right-aligned between there and the right margin. It is
     // not cut. The position moves to the line's end.
     void writeText(const QString& text);

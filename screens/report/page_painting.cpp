@@ -1,9 +1,11 @@
 #include "screens/report/page_painting.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 #include "core/messages.h"
@@ -194,10 +196,14 @@ QString writePdf(const PageDocument& document, const QString& path,
 
 void savePdf(const PageDocument& document, const QString& suggestedName)
 {
-    const QString path = SystemDialogs::current().chooseFileToWrite(
-        "Save Report as PDF", suggestedName + ".pdf", "PDF Files (*.pdf)");
+    QString name = suggestedName;
+    name.replace(QRegularExpression("[/\\\\:]"), "-");
+    QString path = SystemDialogs::current().chooseFileToWrite("Save Report as PDF", name + ".pdf",
+                                                              "PDF Files (*.pdf)");
     if (path.isEmpty())
         return;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += ".pdf";
     const auto [goOn, isStopped] = stoppable("Writing Page:");
     const QString failure = writePdf(document, path, goOn);
     if (!failure.isEmpty() && !*isStopped)

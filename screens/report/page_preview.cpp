@@ -58,6 +58,7 @@ void PagePreview::build()
     bar->addWidget(m_zoom);
     addButton("cmdZoomIn", "+", "Ctrl++", [this] { m_view->zoomStep(1); })->setFixedWidth(narrow);
     m_slider->setMinimumWidth(80);
+    m_slider->setFocusPolicy(Qt::NoFocus);  // the page keys are the view's
     bar->addWidget(m_slider, 1);
     bar->addWidget(m_place);
     m_print = addButton("cmdPrint", "&Print...", "P", [this] { print(); });

@@ -163,7 +163,7 @@ bool PageView::scrollOrTurn(int pixels)
 void PageView::wheelEvent(QWheelEvent* event)
 {
     const int turned = event->angleDelta().y();
-    if (event->modifiers() & Qt::ControlModifier)
+    if (turned != 0 && event->modifiers() & Qt::ControlModifier)
         zoomStep(turned);
     else if (turned != 0)
         scrollOrTurn(-turned);

@@ -35,7 +35,8 @@ public:
 private:
     void cell(const QString& text, int width)
     {
-        m_pages.drawTextBox(text, {m_left, m_top, width, footHeight});
+        // The texts bring their own blanks.
+        m_pages.drawTextBox(text, {m_left, m_top, width, footHeight}, false, 0);
         m_left += width;
     }
 

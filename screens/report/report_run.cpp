@@ -1,6 +1,7 @@
 #include "screens/report/report_run.h"
 
 #include <QCoreApplication>
+#include <QScopeGuard>
 
 #include "core/messages.h"
 #include "core/number_format.h"
@@ -14,6 +15,12 @@ namespace {
 
 constexpr int livingInterval = 20;   // ms; often enough for a Cancel, seldom enough to stay fast
 constexpr int papersTolerance = 60;  // twips; printers tell their paper in rounded units
+
+QList<ReportRun*>& runningReports()
+{
+    static QList<ReportRun*> all;
+    return all;
+}
 
 QString minutesAndSeconds(qint64 milliseconds)
 {
@@ -89,12 +96,26 @@ QString ReportRun::workbookPath() const
     return storage::joinPath(m_session.UserSettingsPath, m_spec.workbookName(*this));
 }
 
+void ReportRun::cancelAll()
+{
+    for (ReportRun* run : runningReports())
+        run->requestCancel();
+}
+
 // A failure in the middle leaves what was drawn in the preview.
 void ReportRun::printGuarded()
 {
-    m_isBroken = !runCommand([this] { m_spec.print(*this); });
-    if (m_isBroken)
+    runningReports().append(this);
+    m_isBroken = false;
+    bool isWhole = false;
+    const auto end = qScopeGuard([&] {
+        runningReports().removeOne(this);
+        if (isWhole)
+            return;
+        m_isBroken = true;
         dnReportEnd(*this);
+    });
+    isWhole = runCommand([this] { m_spec.print(*this); });
 }
 
 bool ReportRun::proceed()

@@ -28,6 +28,8 @@ public:
     // screen must not go before it returns.
     void begin();
     void requestCancel() { m_isCancelled = m_isCancelled || isRunning(); }
+    // Every run that is under way, when the program ends.
+    static void cancelAll();
     // A field was changed: a finished screen is idle again, with its pages.
     void selectionChanged();
     State state() const { return m_state; }

@@ -109,14 +109,21 @@ TEST(Pages, BearTheStripAtTheirFoot)
     // Its cells reach exactly from margin to margin.
     const Page& page = pages.page(1);
     int left = 500;
+    QList<int> widths;
     for (const PageOperation& operation : page.operations) {
         if (operation.kind != PageOperation::Kind::Rectangle)
             continue;
         EXPECT_EQ(operation.x, left);
         EXPECT_EQ(operation.y, 15840 - 500 - 200);
+        widths.append(operation.width);
         left += operation.width;
     }
     EXPECT_EQ(left, 12240 - 500);
+    EXPECT_EQ(widths, (QList<int>{760, 2380, 680, 3680, 440, 1000, 480, 900, 460, 460}));
+
+    pages.newPage();
+    dnReportPageFoot(pages, {.reportName = "Log", .pageOverride = 1234});
+    EXPECT_TRUE(linesOn(pages, pages.currentPage()).last().endsWith("Page|1234"));
 }
 
 TEST(Pages, NarrowTheFontOfACellBeforeTheyCutItsText)
