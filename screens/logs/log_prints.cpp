@@ -12,8 +12,8 @@ template <class Log>
 ReportSpec logPrint(const QString& name, const QString& caption, const ReportPlan& plan)
 {
     const auto walk = [](ReportRun& run, ReportLines& lines) {
-        Log log(run.session().UserSettingsPath);
         run.showStatus("Now Printing...");
+        Log log(run.session().UserSettingsPath);
         if (log.isEmpty())
             return;
         storage::Recordset& rows = log.rows();
@@ -46,7 +46,7 @@ ReportSpec frmZORERRLOG02(const QString& word)
 ReportSpec frmZORPRINTACT()
 {
     return logPrint<ActivityLog>("frmZORPRINTACT", "Print Activity Log",
-                                 {.title = "Activity Log",
+                                 {.title = "Activity",
                                   .pageCaption = "Printing Page: ",
                                   .columns = {lineColumn("Activity")},
                                   .emptyText = "Activity Log is Empty."});

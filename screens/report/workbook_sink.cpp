@@ -24,7 +24,10 @@ storage::Value cellOf(const storage::Value& value, const QString& mask)
         return value;
     if (mask.isEmpty())
         return value.toString();
-    return dnFormat(value.toDouble(), mask).remove(',').toDouble();
+    // What the mask leaves blank is a blank cell.
+    bool isNumber = false;
+    const double shown = dnFormat(value.toDouble(), mask).remove(',').toDouble(&isNumber);
+    return isNumber ? storage::Value(shown) : storage::Value();
 }
 
 std::vector<size_t> orderOf(const ReportPlan& plan)

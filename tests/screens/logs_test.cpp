@@ -67,6 +67,12 @@ TEST_F(LogScreens, SayThatALogIsEmpty)
     ReportRun activity(frmZORPRINTACT(), session);
     activity.begin();
     EXPECT_TRUE(linesOn(activity.pages, 1).contains("Activity Log is Empty."));
+    ActivityLog(site.userFolder()).add("Row 1 mended");
+    ReportRun filled(frmZORPRINTACT(), session);
+    filled.begin();
+    const QStringList lines = linesOn(filled.pages, 1);
+    for (const char* line : {"Activity", "Printing Page: 1", "Row 1 mended"})
+        EXPECT_TRUE(lines.contains(line)) << line;
 }
 
 TEST_F(LogScreens, PrintEveryLineWhole)

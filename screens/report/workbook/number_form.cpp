@@ -26,7 +26,9 @@ NumberForm formOfMask(const QString& mask)
     static const QRegularExpression noLetters(
         "\"[^\"]*\"|\\\\.|_.|\\*.|\\[(?!h+\\]|m+\\]|s+\\])[^\\]]*\\]",
         QRegularExpression::CaseInsensitiveOption);
-    const QString first = QString(mask).remove(noLetters).section(';', 0, 0).toLower();
+    // A program writes no longer masks, and a hostile one would keep the pattern busy for minutes.
+    constexpr int longestMask = 255;
+    const QString first = mask.left(longestMask).remove(noLetters).section(';', 0, 0).toLower();
     if (first.contains("general"))
         return NumberForm::Number;
     const bool hasTime = first.contains('h') || first.contains('s');

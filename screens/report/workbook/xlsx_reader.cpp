@@ -3,6 +3,7 @@
 #include <QHash>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
+#include <cmath>
 
 #include "screens/report/workbook/number_form.h"
 #include "screens/report/workbook/xlsx_package.h"
@@ -160,6 +161,8 @@ private:
             if (xml.name() == u"row") {
                 const int told = xml.attributes().value("r").toInt();
                 last = {told > 0 ? told : last.row + 1, 0};
+                if (last.row > maxRow)
+                    m_package.refuseDamaged();
             } else if (xml.name() == u"c") {
                 const QStringView reference = xml.attributes().value("r");
                 const Place place =
@@ -226,7 +229,7 @@ private:
             return {};
         bool isNumber = false;
         const double number = text.toDouble(&isNumber);
-        if (!isNumber)
+        if (!isNumber || !std::isfinite(number))
             m_package.refuseDamaged();
         const auto place = static_cast<size_t>(form);
         return place < m_forms.size() ? shownAs(m_forms[place], number, m_since1904) : number;
