@@ -55,7 +55,8 @@ public:
     void rebuild();
     // Another index; the record under the highlight stays.
     void useIndex(const QString& index);
-    // `bookmark` to row 0, under the highlight; blank does nothing.
+    // `bookmark` to row 0, under the highlight. Nothing happens, and nothing is said, for a blank
+    // one and for a record outside the list.
     void show(const QString& bookmark);
     // How many rows the page has, at least one; the highlight stays in view.
     void setRowCount(int rows);

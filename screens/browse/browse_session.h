@@ -51,7 +51,8 @@ public:
     void search();
     void print();
     void run(const BrowseCommand& command);
-    // This screen's number in the window registry, for commands that open a detail screen.
+    // This screen's number in the window registry; 0 without a detail screen. The list follows only
+    // what Add, Edit, Delete and Enter have opened.
     qint16 winTag() const { return m_winTag; }
     // The screen is in front again: shows what a detail screen has left.
     void comeToFront();
@@ -69,6 +70,7 @@ public:
     const BrowseColumn& entryColumn(int entry) const;
     const QString& text(int entry) const { return m_texts[entry]; }
     void setText(int entry, const QString& text);
+    // The same for a command of the entry: the field is focused then.
     void setText(schema::FieldName field, const QString& text);
     QString entryText(schema::FieldName field) const;  // empty for a field that is not typed
     // Tidies and validates a field that is left; its error, or the lack of one, stands in `errors`.

@@ -136,8 +136,10 @@ struct BrowseSpec
     Refusals refusals = Refusals::ErrorBox;
     const char* editRight = "";  // tested at Add, Edit and Delete; blank: none
 
-    // Writes what is not typed, between AddNew or Edit and Update.
+    // Writes what is not typed, between AddNew or Edit and Update: the parent's keys, a new tag and
+    // the typed fields are written already.
     std::function<void(const Entry&, storage::Recordset&)> complete = {};
+    // Needed unless a detail screen deletes.
     std::function<QString(storage::Recordset&)> deleteQuestion = {};
     // Gives the text of "Cannot Delete" when others refer to the record, else empty text.
     std::function<QString(const BrowseSession&, storage::Recordset&)> deleteTest = {};

@@ -316,6 +316,8 @@ void BrowseWindow::showKeys()
         {"Enter", "Edit"}, {"A", "Add"}, {"E", "Edit"}, {"Del", "Delete"}};
     if (m_session.spec().search)
         keys.emplaceBack("S", "Search");
+    if (m_commands->findChild<QPushButton*>("cmdPrint"))
+        keys.emplaceBack("P", "Print");
     keys.emplaceBack("Ctrl+C", "Copy list");
     keys.emplaceBack("X", "Exit");
     m_keys->setKeys(keys);
