@@ -18,6 +18,11 @@ OpenTable openTable(const QString& path, const QString& table)
     return opened;
 }
 
+OpenTable openTable(const QString& folder, const QString& file, const QString& table)
+{
+    return openTable(storage::joinPath(folder, file), table);
+}
+
 OpenTable openLocator(const QString& name)
 {
     return openTable(name + ".mdb", name);

@@ -28,6 +28,8 @@ struct OpenTable
 // Opens `path` in a workspace named `wks` + the file's bare name, and a table of it. Fails as the
 // store does.
 OpenTable openTable(const QString& path, const QString& table);
+// The same of a file in a folder; a blank folder is the current directory.
+OpenTable openTable(const QString& folder, const QString& file, const QString& table);
 
 // `name` is the file without its extension: VEXPATH, DBPATHS, USERPATH, NETPATH.
 OpenTable openLocator(const QString& name);

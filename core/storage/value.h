@@ -17,6 +17,14 @@ struct Currency
 
     double toDouble() const { return static_cast<double>(tenThousandths) / 10000.0; }
     auto operator<=>(const Currency&) const = default;
+    friend Currency operator+(Currency a, Currency b)
+    {
+        return {a.tenThousandths + b.tenThousandths};
+    }
+    friend Currency operator-(Currency a, Currency b)
+    {
+        return {a.tenThousandths - b.tenThousandths};
+    }
 };
 
 class Value
