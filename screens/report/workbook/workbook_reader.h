@@ -18,7 +18,10 @@ struct WorkbookLimits
     qint64 fileBytes = 64 << 20;
     qint64 unpackedBytes = 512 << 20;  // of all parts together
     qint64 ratio = 250;                // unpacked to packed, of a part above a megabyte
+    qint64 keptBytes = 512 << 20;      // of cells, texts and names
     qint64 cells = 4'000'000;          // with the empty ones before the last of each row
+    qint64 sheets = 1000;
+    qint64 forms = 1 << 16;  // the programs that write them have fewer
 };
 
 class WorkbookSheet

@@ -35,10 +35,17 @@ void mendSurrogates(QString& text)
     }
 }
 
+// The start of a text, without half of a character at its end.
+QString startOf(const QString& text, qsizetype length)
+{
+    const bool isCut = text.size() > length;
+    return text.left(isCut && text[length - 1].isHighSurrogate() ? length - 1 : length);
+}
+
 QString sheetName(const QString& text)
 {
     static const QRegularExpression refused("[\\[\\]:*?/\\\\]");
-    QString name = workbookText(text).replace(refused, " ").simplified().left(maxSheetName);
+    QString name = startOf(workbookText(text).replace(refused, " ").simplified(), maxSheetName);
     while (name.startsWith('\''))
         name.remove(0, 1);
     while (name.endsWith('\''))
@@ -56,9 +63,7 @@ QString workbookText(const QString& text)
     clean.replace("\r\n", "\n").replace('\r', '\n');
     clean.removeIf(isUnwanted);
     mendSurrogates(clean);
-    if (clean.size() > maxText)
-        clean.truncate(clean[maxText - 1].isHighSurrogate() ? maxText - 1 : maxText);
-    return clean;
+    return startOf(clean, maxText);
 }
 
 void WorkbookWriter::beginSheet(const QString& name, const std::vector<double>& widths,
@@ -83,7 +88,7 @@ QString WorkbookWriter::freeName()
     QString name = m_name;
     for (int number = 2; !m_usedNames.insert(name.toLower()).second; ++number) {
         const QString suffix = QString(" (%1)").arg(number);
-        name = m_name.left(maxSheetName - suffix.size()) + suffix;
+        name = startOf(m_name, maxSheetName - suffix.size()) + suffix;
     }
     return name;
 }

@@ -5,6 +5,7 @@
 #include "screens/report/workbook/biff_input.h"
 #include "screens/report/workbook/compound_file.h"
 #include "screens/report/workbook/number_form.h"
+#include "screens/report/workbook/workbook_room.h"
 
 namespace {
 
@@ -29,9 +30,7 @@ enum RecordNumber : quint16 {
     beginOfFile = 0x0809,
 };
 
-// Of a list that names one place over and over.
-constexpr size_t mostSheets = 1000;
-
+constexpr qsizetype recordHead = 4;  // its number and length
 constexpr quint16 version8 = 0x0600;
 constexpr quint16 version5 = 0x0500;
 
@@ -69,18 +68,24 @@ struct SheetPlace
     quint32 place;
 };
 
+struct CellPlace
+{
+    int row;
+    int column;
+};
+
 struct PasswordNeeded
 {
 };
-struct TooManyCells
-{
-};
 
-// Reads one stream. Throws the structs above and DamagedBiff.
+// Reads one stream. Throws PasswordNeeded, WorkbookTooLarge and DamagedBiff.
 class XlsReader
 {
 public:
-    XlsReader(const QByteArray& stream, qint64 cells) : m_stream(stream), m_room(cells) {}
+    XlsReader(const QByteArray& stream, const WorkbookLimits& limits)
+        : m_stream(stream), m_room(limits), m_unread(stream.size())
+    {
+    }
 
     std::vector<WorkbookSheet> sheets()
     {
@@ -92,9 +97,20 @@ public:
     }
 
 private:
-    QString takeText(BiffData& data, bool shortLength = false) const
+    QString takeText(BiffData& data, bool shortLength = false)
     {
-        return m_isOld ? data.takeBytesAsText(shortLength) : data.takeText(shortLength);
+        return m_room.takeText(m_isOld ? data.takeBytesAsText(shortLength)
+                                       : data.takeText(shortLength));
+    }
+
+    // Of the record and of those that continue it.
+    static BiffData dataOf(const BiffRecord& record, BiffRecords& records)
+    {
+        BiffData data(record.data);
+        BiffRecord more;
+        while (records.isNext(continued) && records.next(more))
+            data.addPart(more.data);
+        return data;
     }
 
     void readGlobals()
@@ -122,6 +138,7 @@ private:
             const int place = data.take<quint16>();
             m_masks[place] = formOfMask(takeText(data, m_isOld));
         } else if (record.number == extendedFormat) {
+            m_room.takeForm();
             data.skip(2);
             const int place = data.take<quint16>();
             const auto own = m_masks.find(place);
@@ -130,24 +147,22 @@ private:
             const quint32 place = data.take<quint32>();
             data.skip(1);
             const bool isSheet = data.take<quint8>() == 0;  // not a chart or a macro
-            if (m_places.size() == mostSheets)
-                throw DamagedBiff();
+            m_room.takeSheet();
             if (isSheet)
                 m_places.push_back({takeText(data, true), place});
         } else if (record.number == sharedTexts) {
-            readTexts(data, records);
+            readTexts(dataOf(record, records));
         }
     }
 
-    void readTexts(BiffData& data, BiffRecords& records)
+    void readTexts(BiffData data)
     {
-        BiffRecord more;
-        while (records.isNext(continued) && records.next(more))
-            data.addPart(more.data);
         data.skip(4);
         const quint32 count = data.take<quint32>();
-        for (quint32 at = 0; at < count && !data.atEnd(); ++at)
-            m_texts.append(data.takeText());
+        for (quint32 at = 0; at < count && !data.atEnd(); ++at) {
+            m_room.take(sizeof(QString));
+            m_texts.append(m_room.takeText(data.takeText()));
+        }
     }
 
     WorkbookSheet readSheet(const SheetPlace& place)
@@ -156,7 +171,12 @@ private:
         BiffRecords records(m_stream, place.place);
         BiffRecord record;
         int depth = 0;  // charts lie inside sheets
+        m_formula.reset();
         while (records.next(record)) {
+            // A list that names one place over and over would have it read as often.
+            m_unread -= recordHead + record.data.size();
+            if (m_unread < 0)
+                throw DamagedBiff();
             if (record.number == beginOfFile)
                 ++depth;
             else if (record.number == endOfFile && --depth <= 0)
@@ -164,16 +184,18 @@ private:
             else if (depth == 0)
                 throw DamagedBiff();
             else if (depth == 1)
-                readCells(record, sheet);
+                readCells(record, records, sheet);
         }
         throw DamagedBiff();
     }
 
-    void readCells(const BiffRecord& record, WorkbookSheet& sheet)
+    void readCells(const BiffRecord& record, BiffRecords& records, WorkbookSheet& sheet)
     {
-        BiffData data(record.data);
         if (record.number == textOfFormula) {
-            put(sheet, m_formulaRow, m_formulaColumn, takeText(data));
+            if (!m_formula)
+                throw DamagedBiff();
+            BiffData text = dataOf(record, records);
+            put(sheet, m_formula->row, m_formula->column, takeText(text));
             return;
         }
         static const QSet<quint16> cells = {formula,         manyShortNumbers, richLabel,
@@ -181,6 +203,7 @@ private:
                                             booleanOrError,  shortNumber};
         if (!cells.contains(record.number))
             return;
+        BiffData data = dataOf(record, records);
         const int row = data.take<quint16>();
         const int column = data.take<quint16>();
         if (record.number == manyShortNumbers) {
@@ -229,8 +252,7 @@ private:
     // A number, or in its place the kind of another result; a text follows in a record of its own.
     storage::Value resultOf(BiffData& data, quint16 form, int row, int column)
     {
-        m_formulaRow = row;
-        m_formulaColumn = column;
+        m_formula = {row, column};
         const double value = data.take<double>();
         const auto bits = std::bit_cast<quint64>(value);
         if (bits >> 48 != 0xffff)
@@ -250,21 +272,19 @@ private:
     {
         if (value.isNull())
             return;
-        m_room -= sheet.setCell(row + 1, column + 1, std::move(value));
-        if (m_room < 0)
-            throw TooManyCells();
+        m_room.takeCells(sheet.setCell(row + 1, column + 1, std::move(value)));
     }
 
     const QByteArray& m_stream;
-    qint64 m_room;
+    WorkbookRoom m_room;
+    qint64 m_unread;  // bytes of sheets, of which no two share any
     bool m_isOld = false;
     bool m_since1904 = false;
     QHash<int, NumberForm> m_masks;
     std::vector<NumberForm> m_forms;
     std::vector<SheetPlace> m_places;
     QStringList m_texts;
-    int m_formulaRow = 0;
-    int m_formulaColumn = 0;
+    std::optional<CellPlace> m_formula;  // the last of the sheet
 };
 
 }  // namespace
@@ -283,10 +303,10 @@ std::vector<WorkbookSheet> readXls(const QString& file, const WorkbookLimits& li
     if (!stream)
         throw WorkbookError("The file is not a workbook, or it is damaged: " + file);
     try {
-        return XlsReader(*stream, limits.cells).sheets();
+        return XlsReader(*stream, limits).sheets();
     } catch (const PasswordNeeded&) {
         throw WorkbookError(isProtected);
-    } catch (const TooManyCells&) {
+    } catch (const WorkbookTooLarge&) {
         throw WorkbookError("The workbook is too large: " + file);
     } catch (const DamagedBiff&) {
         throw WorkbookError("The workbook is damaged: " + file);

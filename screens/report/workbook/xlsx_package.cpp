@@ -4,11 +4,13 @@
 #include <QFileInfo>
 #include <QXmlStreamReader>
 
+#include "screens/report/workbook/xml_elements.h"
+
 namespace {
 
 constexpr qint64 ratioCounts = 1 << 20;
-// Deeper than any true part; the reader's own stack grows with it.
-constexpr int maxDepth = 64;
+// The reader takes a text or a tag whole; none of a true part is nearly that long.
+constexpr qint64 longestRun = 1 << 20;
 
 // One part of the archive as a stream that ends at the limit.
 class PartDevice : public QIODevice
@@ -22,7 +24,7 @@ public:
     ~PartDevice() override { zip_fclose(m_part); }
 
     bool isSequential() const override { return true; }
-    bool isTooLarge() const { return m_unpacked > m_limit; }
+    bool isTooLarge() const { return m_unpacked > m_limit || m_run > longestRun; }
     bool hasFailed() const { return m_failed; }
 
 protected:
@@ -31,6 +33,9 @@ protected:
         const zip_int64_t count = zip_fread(m_part, data, static_cast<zip_uint64_t>(maxSize));
         m_failed = m_failed || count < 0;
         m_unpacked += std::max<qint64>(count, 0);
+        const QByteArrayView bytes(data, std::max<qint64>(count, 0));
+        const qsizetype tag = bytes.lastIndexOf('<');
+        m_run = tag < 0 ? m_run + bytes.size() : bytes.size() - tag;
         return m_failed || isTooLarge() ? -1 : count;
     }
     qint64 writeData(const char*, qint64) override { return -1; }
@@ -39,6 +44,7 @@ private:
     zip_file_t* m_part;
     qint64& m_unpacked;
     qint64 m_limit;
+    qint64 m_run = 0;  // since the last tag began
     bool m_failed = false;
 };
 
@@ -102,7 +108,7 @@ void XlsxPackage::read(const QString& part, const std::function<void(QXmlStreamR
     PartDevice device(opened, m_unpacked, std::min(m_limits.unpackedBytes, byRatio));
     QXmlStreamReader xml(&device);
     int depth = 0;
-    while (!xml.atEnd() && depth <= maxDepth) {
+    while (!xml.atEnd() && depth <= maxElementDepth) {
         switch (xml.readNext()) {
             case QXmlStreamReader::StartElement:
                 element(xml);
@@ -119,12 +125,12 @@ void XlsxPackage::read(const QString& part, const std::function<void(QXmlStreamR
         }
     }
     if (device.isTooLarge())
-        refuseLarge();
+        throw WorkbookTooLarge();
     if (device.hasFailed() || xml.hasError() || depth != 0)
         refuseDamaged();
 }
 
-std::vector<XlsxPackage::Relation> XlsxPackage::relationsOf(const QString& part)
+std::vector<XlsxPackage::Relation> XlsxPackage::relationsOf(const QString& part, WorkbookRoom& room)
 {
     const qsizetype name = part.lastIndexOf('/') + 1;
     const QString list = part.left(name) + "_rels/" + part.mid(name) + ".rels";
@@ -133,10 +139,14 @@ std::vector<XlsxPackage::Relation> XlsxPackage::relationsOf(const QString& part)
         return found;
     read(list, [&](QXmlStreamReader& xml) {
         const QXmlStreamAttributes attributes = xml.attributes();
-        if (xml.name() == u"Relationship" && attributes.value("TargetMode") != u"External")
-            found.push_back({attributes.value("Id").toString(),
-                             attributes.value("Type").toString().section('/', -1),
-                             partBeside(part, attributes.value("Target").toString())});
+        if (xml.name() != u"Relationship" || attributes.value("TargetMode") == u"External")
+            return;
+        found.push_back({attributes.value("Id").toString(),
+                         attributes.value("Type").toString().section('/', -1),
+                         partBeside(part, attributes.value("Target").toString())});
+        room.take(sizeof(Relation));
+        for (const QString& text : {found.back().id, found.back().type, found.back().target})
+            room.takeText(text);
     });
     return found;
 }
@@ -144,9 +154,4 @@ std::vector<XlsxPackage::Relation> XlsxPackage::relationsOf(const QString& part)
 void XlsxPackage::refuseDamaged() const
 {
     throw WorkbookError("The workbook is damaged: " + m_file);
-}
-
-void XlsxPackage::refuseLarge() const
-{
-    throw WorkbookError("The workbook is too large: " + m_file);
 }

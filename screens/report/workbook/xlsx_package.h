@@ -8,7 +8,7 @@
 #include <functional>
 #include <memory>
 
-#include "screens/report/workbook/workbook_reader.h"
+#include "screens/report/workbook/workbook_room.h"
 
 class QXmlStreamReader;
 
@@ -21,8 +21,9 @@ public:
     XlsxPackage& operator=(const XlsxPackage&) = delete;
 
     bool has(const QString& part) const;
-    // Calls `element` at the start of each element of the part; it may read on. Throws when the
-    // part is missing, damaged, too large, or declares a document type.
+    // Calls `element` at the start of each element of the part; it may read on. Throws a
+    // WorkbookError when the part is missing, damaged, or declares a document type, and
+    // WorkbookTooLarge when it is.
     void read(const QString& part, const std::function<void(QXmlStreamReader&)>& element);
     // The parts that `part` refers to, by their id and by their type's last word.
     struct Relation
@@ -31,10 +32,9 @@ public:
         QString type;
         QString target;
     };
-    std::vector<Relation> relationsOf(const QString& part);
+    std::vector<Relation> relationsOf(const QString& part, WorkbookRoom& room);
 
     [[noreturn]] void refuseDamaged() const;
-    [[noreturn]] void refuseLarge() const;
 
 private:
     qint64 placeOf(const QString& part) const;

@@ -7,6 +7,7 @@
 
 #include "screens/report/workbook/number_form.h"
 #include "screens/report/workbook/xlsx_package.h"
+#include "screens/report/workbook/xml_elements.h"
 
 namespace {
 
@@ -41,12 +42,14 @@ QString richText(QXmlStreamReader& xml)
             --depth;
         } else if (xml.isStartElement()) {
             if (xml.name() == u"t")
-                text += xml.readElementText(QXmlStreamReader::SkipChildElements);
+                text += elementText(xml);
             else if (xml.name() == u"rPh")
-                xml.skipCurrentElement();
+                skipElement(xml);
             else
                 ++depth;
         }
+        if (depth > maxElementDepth || text.size() > longestXmlText)
+            throw WorkbookTooLarge();
     }
     return withoutEscapes(text);
 }
@@ -73,11 +76,22 @@ Place placeOf(QStringView reference)
     return place;
 }
 
+// A date as it is written out; a time alone, and what is neither, stay texts, so that whoever takes
+// the rows in can tell which one is wrong.
+storage::Value dateOr(const QString& text)
+{
+    const QDateTime date = QDateTime::fromString(text, Qt::ISODate);
+    if (date.isValid())
+        return date;
+    const QTime time = QTime::fromString(text, Qt::ISODate);
+    return time.isValid() ? time.toString("HH:mm:ss") : text;
+}
+
 class XlsxReader
 {
 public:
     XlsxReader(const QString& file, const WorkbookLimits& limits)
-        : m_package(file, limits), m_room(limits.cells)
+        : m_package(file, limits), m_room(limits)
     {
     }
 
@@ -85,7 +99,7 @@ public:
     {
         const QString workbook = workbookPart();
         QHash<QString, QString> parts;  // by id
-        for (const auto& relation : m_package.relationsOf(workbook)) {
+        for (const auto& relation : m_package.relationsOf(workbook, m_room)) {
             parts.insert(relation.id, relation.target);
             if (relation.type == "sharedStrings")
                 readTexts(relation.target);
@@ -95,11 +109,13 @@ public:
         std::vector<std::pair<QString, QString>> listed;
         m_package.read(workbook, [&](QXmlStreamReader& xml) {
             const QXmlStreamAttributes attributes = xml.attributes();
-            if (xml.name() == u"sheet")
-                listed.emplace_back(attributes.value("name").toString(),
+            if (xml.name() == u"sheet") {
+                m_room.takeSheet();
+                listed.emplace_back(m_room.takeText(attributes.value("name").toString()),
                                     parts.value(idOf(attributes)));
-            else if (xml.name() == u"workbookPr")
+            } else if (xml.name() == u"workbookPr") {
                 m_since1904 = isTrue(attributes.value("date1904"));
+            }
         });
         std::vector<WorkbookSheet> found;
         for (const auto& [name, part] : listed)
@@ -121,7 +137,7 @@ private:
 
     QString workbookPart()
     {
-        for (const auto& relation : m_package.relationsOf(""))
+        for (const auto& relation : m_package.relationsOf("", m_room))
             if (relation.type == "officeDocument")
                 return relation.target;
         return "xl/workbook.xml";
@@ -130,8 +146,10 @@ private:
     void readTexts(const QString& part)
     {
         m_package.read(part, [&](QXmlStreamReader& xml) {
-            if (xml.name() == u"si")
-                m_texts.append(richText(xml));
+            if (xml.name() != u"si")
+                return;
+            m_room.take(sizeof(QString));
+            m_texts.append(m_room.takeText(richText(xml)));
         });
     }
 
@@ -142,6 +160,8 @@ private:
         m_package.read(part, [&](QXmlStreamReader& xml) {
             const QXmlStreamAttributes attributes = xml.attributes();
             const int number = attributes.value("numFmtId").toInt();
+            if (xml.name() == u"numFmt" || xml.name() == u"xf")
+                m_room.takeForm();
             if (xml.name() == u"numFmt")
                 own.insert(number, formOfMask(attributes.value("formatCode").toString()));
             else if (xml.name() == u"cellXfs" || xml.name() == u"cellStyleXfs")
@@ -182,9 +202,7 @@ private:
         storage::Value value = readCell(xml);
         if (value.isNull())
             return;
-        m_room -= sheet.setCell(place.row, place.column, std::move(value));
-        if (m_room < 0)
-            m_package.refuseLarge();
+        m_room.takeCells(sheet.setCell(place.row, place.column, std::move(value)));
     }
 
     // Stands at the cell's end afterwards.
@@ -196,19 +214,19 @@ private:
         bool hasValue = false;
         while (xml.readNextStartElement()) {
             if (xml.name() == u"v") {
-                text = xml.readElementText(QXmlStreamReader::SkipChildElements);
+                text = elementText(xml);
                 hasValue = true;
             } else if (xml.name() == u"is") {
                 text = richText(xml);
                 hasValue = true;
             } else {
-                xml.skipCurrentElement();
+                skipElement(xml);
             }
         }
         return hasValue ? valueOf(type, form, text) : storage::Value();
     }
 
-    storage::Value valueOf(const QString& type, int form, const QString& text) const
+    storage::Value valueOf(const QString& type, int form, const QString& text)
     {
         if (type == "s") {
             bool isNumber = false;
@@ -218,13 +236,13 @@ private:
             return m_texts[number];
         }
         if (type == "inlineStr" || type == "e")
-            return text;
+            return m_room.takeText(text);
         if (type == "str")
-            return withoutEscapes(text);
+            return m_room.takeText(withoutEscapes(text));
         if (type == "b")
             return isTrue(text);
         if (type == "d")
-            return QDateTime::fromString(text, Qt::ISODate);
+            return dateOr(m_room.takeText(text));
         if (text.isEmpty())
             return {};
         bool isNumber = false;
@@ -236,7 +254,7 @@ private:
     }
 
     XlsxPackage m_package;
-    qint64 m_room;
+    WorkbookRoom m_room;
     bool m_since1904 = false;
     QStringList m_texts;
     std::vector<NumberForm> m_forms;
@@ -246,5 +264,9 @@ private:
 
 std::vector<WorkbookSheet> readXlsx(const QString& file, const WorkbookLimits& limits)
 {
-    return XlsxReader(file, limits).sheets();
+    try {
+        return XlsxReader(file, limits).sheets();
+    } catch (const WorkbookTooLarge&) {
+        throw WorkbookError("The workbook is too large: " + file);
+    }
 }

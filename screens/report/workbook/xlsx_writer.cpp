@@ -23,13 +23,11 @@ QString temporaryBeside(const QString& file)
     return temporary.open() ? temporary.fileName() : QString();
 }
 
-// What looks like the escape of a character is escaped itself.
-QByteArray cellText(const QString& text)
+// What looks like the escape of a character, and so is escaped itself.
+const QRegularExpression& escapeLike()
 {
-    if (!text.contains("_x"))
-        return text.toUtf8();
     static const QRegularExpression escape("_(?=x[0-9A-Fa-f]{4}_)");
-    return QString(text).replace(escape, "_x005F_").toUtf8();
+    return escape;
 }
 
 }  // namespace
@@ -115,8 +113,27 @@ void XlsxWriter::addText(const QString& text, lxw_row_t row, lxw_col_t column, b
         return;
     const bool isShort = clean.size() <= maxShownAsText;
     lxw_format* format = bold ? (isShort ? m_boldText : m_bold) : (isShort ? m_text : m_plain);
-    check(worksheet_write_string(m_sheet, row, column, cellText(clean).constData(), format));
+    if (clean.contains(escapeLike()))
+        addEscapedText(clean, row, column, format);
+    else
+        check(worksheet_write_string(m_sheet, row, column, clean.toUtf8().constData(), format));
     ++m_cellCount;
+}
+
+// Such texts stand in the table of shared ones, where all readers know escapes, and which takes
+// what is longer than a cell only for its escapes. The library fills that table only when it keeps
+// all rows in memory; so the cell is put as a number and then told to be one of a text.
+void XlsxWriter::addEscapedText(const QString& text, lxw_row_t row, lxw_col_t column,
+                                lxw_format* format)
+{
+    check(worksheet_write_number(m_sheet, row, column, 0, format));
+    const QByteArray escaped = QString(text).replace(escapeLike(), "_x005F_").toUtf8();
+    const sst_element* shared = lxw_get_sst_index(m_sheet->sst, escaped.constData(), LXW_FALSE);
+    lxw_cell* cell = m_sheet->array[column];
+    if (!shared || !cell)
+        throw WorkbookError("Cannot write the workbook " + m_file + ".");
+    cell->type = STRING_CELL;
+    cell->u.string_id = static_cast<int32_t>(shared->index);
 }
 
 // The library does not look whether its own temporary files were written: on a full disk it closes
@@ -132,6 +149,8 @@ void XlsxWriter::checkWhole() const
             package.read(QString("xl/worksheets/sheet%1.xml").arg(sheet),
                          [&](QXmlStreamReader& xml) { count += xml.name() == u"c"; });
     } catch (const WorkbookError&) {
+        count = -1;
+    } catch (const WorkbookTooLarge&) {
         count = -1;
     }
     if (count != m_cellCount)

@@ -18,6 +18,7 @@ protected:
     void addRow(int row, const WorkbookRow& cells, bool bold) override;
 
 private:
+    void addEscapedText(const QString& text, lxw_row_t row, lxw_col_t column, lxw_format* format);
     void addText(const QString& text, lxw_row_t row, lxw_col_t column, bool bold);
     lxw_format* makeFormat(bool bold, bool isText);
     void check(lxw_error error) const;

@@ -13,6 +13,7 @@
 #include <cmath>
 #include <csignal>
 
+#include "screens/report/workbook/workbook_reader.h"
 #include "tests/support/printing.h"
 
 namespace {
@@ -105,6 +106,45 @@ TEST_P(WorkbookForms, HoldTextsOfAllLengthsBesideEachOther)
     for (int row = 0; row < 6000; ++row)
         for (int column = 0; column < 3; ++column)
             ASSERT_EQ(textOf(sheet, row, column), rows[row][column].toString());
+}
+
+TEST_P(WorkbookForms, GiveTextsBackThatLookLikeEscapes)
+{
+    const QStringList texts = {"_x0041_", "a_x000D_x0041_b", "_x41_", "\U0001F529_xFFFF_ ",
+                               QString("_x0041_").repeated(4681)};
+    ASSERT_EQ(texts.last().size(), 32767);
+    auto writer = createWorkbook(path());
+    for (const QString& text : texts)
+        writer->writeRow({text, "beside", text}, text.startsWith('a'));
+    writer->beginSheet("Second");
+    writer->writeRow({texts.last()});
+    writer->finish();
+    const QJsonArray sheets = readByOthers(path());
+    for (int row = 0; row < texts.size(); ++row) {
+        EXPECT_EQ(textOf(sheets[0].toObject(), row, 0), texts[row]);
+        EXPECT_EQ(textOf(sheets[0].toObject(), row, 1), "beside");
+        EXPECT_EQ(textOf(sheets[0].toObject(), row, 2), texts[row]);
+        EXPECT_EQ(cell(sheets[0].toObject(), row, 2)[2].toBool(), row == 1);
+    }
+    EXPECT_EQ(textOf(sheets[1].toObject(), 0, 0), texts.last());
+    EXPECT_EQ(readWorkbook(path())[0].cell(5, 3).toString(), texts.last());
+}
+
+TEST_P(WorkbookForms, CutNoCharacterOfASheetNameInHalves)
+{
+    const QString bolt = "\U0001F529";
+    auto writer = createWorkbook(path());
+    for (int sheet = 0; sheet < 3; ++sheet)
+        writer->beginSheet("x" + bolt.repeated(20));
+    for (int sheet = 0; sheet < 2; ++sheet)
+        writer->beginSheet(bolt.repeated(20));
+    writer->finish();
+    QStringList names;
+    for (const QJsonValue& sheet : readByOthers(path()))
+        names.append(sheet["name"].toString());
+    EXPECT_EQ(names, (QStringList{"x" + bolt.repeated(15), "x" + bolt.repeated(13) + " (2)",
+                                  "x" + bolt.repeated(13) + " (3)", bolt.repeated(15),
+                                  bolt.repeated(13) + " (2)"}));
 }
 
 TEST_P(WorkbookForms, GiveSheetsNamesThatTheyMayHave)
