@@ -1,5 +1,7 @@
 // The stored form of job numbers and cost codes, so that the same text is always the same bytes.
-// Nothing is compared, sought or written before it has passed here.
+// Nothing is compared, sought or written before it has passed here. The columns of prints
+// know a routine of the same name, which is another: it aligns a number within a column's width and
+// a text at its left on demand, and what it gives is shown, never a key.
 #pragma once
 
 #include <QString>

@@ -1,17 +1,28 @@
 #include "screens/search/cost_code_searches.h"
 
+#include "core/cost_code_groups.h"
+#include "core/locators.h"
 #include "core/messages.h"
 #include "core/text.h"
 #include "screens/search/search_window.h"
 
 namespace {
 
-QString searchGroup(const QString& letter, const QString& path, qint16 CONO, const QString& JOBNO,
-                    const QString& groupName, CostCodeOrder order)
+const CostCodeGroup& groupA = costCodeGroups[0];
+const CostCodeGroup& groupB = costCodeGroups[1];
+const CostCodeGroup& groupC = costCodeGroups[2];
+
+QString nameOf(schema::FieldName field)
+{
+    return QString::fromLatin1(field.text());
+}
+
+QString searchGroup(const CostCodeGroup& group, const QString& path, qint16 CONO,
+                    const QString& JOBNO, const QString& groupName, CostCodeOrder order)
 {
     if (dnIsBlank(groupName)) {
-        showCritical("Invalid Cost Code",
-                     "Cost Code Group '" + letter + "' is not Defined for Job Number: " + JOBNO);
+        showCritical("Invalid Cost Code", "Cost Code Group '" + group.letterText() +
+                                              "' is not Defined for Job Number: " + JOBNO);
         return noBookmark;
     }
     const bool byCode = order == CostCodeOrder::ByCode;
@@ -22,11 +33,11 @@ QString searchGroup(const QString& letter, const QString& path, qint16 CONO, con
     return dnSearch(
         {.DBPath = path,
          .DBName = "MAIN",
-         .TableName = "CC" + letter + "LIST",
-         .IndexList = pair("CC" + letter + "LIST", "CC" + letter + "NAME"),
+         .TableName = group.table,
+         .IndexList = pair(group.table, group.nameIndex),
          .WindowTitle = "Search " + plural,
          .SearchTitle = plural + " for Company: " + QString::number(CONO) + " and Job: " + JOBNO,
-         .FieldList = pair("COSTCODE" + letter, "DESC" + letter),
+         .FieldList = pair(nameOf(group.code), nameOf(group.description)),
          .TypeList = "C|C",
          .LengthList = pair("15", "30"),
          .HeadingList = pair(groupName.trimmed(), "Description"),
@@ -35,33 +46,53 @@ QString searchGroup(const QString& letter, const QString& path, qint16 CONO, con
          .keys = {{"CONO", CONO}, {"JOBNO", JOBNO}}});
 }
 
+// The code of the record that was picked; `typed` when none was, " " when none could be.
+QString pickCode(const CostCodeGroup& group, const QString& path, const QString& typed, qint16 CONO,
+                 const QString& JOBNO, const QString& groupName, CostCodeOrder order)
+{
+    const QString bookmark = searchGroup(group, path, CONO, JOBNO, groupName, order);
+    if (dnIsBlank(groupName))
+        return noBookmark;
+    if (dnIsBlank(bookmark))
+        return typed;
+    OpenTable codes = openTable(path, "MAIN.mdb", group.table);
+    return goToFound(codes.rows, bookmark) ? textOf(codes.rows[group.code]) : typed;
+}
+
 }  // namespace
 
 QString zorSearchCCA(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName, CostCodeOrder order)
 {
-    return searchGroup("A", path, CONO, JOBNO, groupName, order);
+    return searchGroup(groupA, path, CONO, JOBNO, groupName, order);
 }
 
 QString zorSearchCCB(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName)
 {
-    return searchGroup("B", path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+    return searchGroup(groupB, path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }
 
 QString zorSearchCCC(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName)
 {
-    return searchGroup("C", path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+    return searchGroup(groupC, path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }
 
-QString costCodeGroupPlural(const QString& groupName)
+QString zorCCASearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
+                     const QString& groupName, CostCodeOrder order)
 {
-    const QString name = groupName.trimmed();
-    const QString capitalised = name.left(1).toUpper() + name.mid(1).toLower();
-    if (capitalised.endsWith('s', Qt::CaseInsensitive))
-        return capitalised;
-    if (capitalised.endsWith('y', Qt::CaseInsensitive))
-        return capitalised.chopped(1) + "ies";
-    return capitalised + 's';
+    return pickCode(groupA, path, typed, CONO, JOBNO, groupName, order);
+}
+
+QString zorCCBSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
+                     const QString& groupName)
+{
+    return pickCode(groupB, path, typed, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+}
+
+QString zorCCCSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
+                     const QString& groupName)
+{
+    return pickCode(groupC, path, typed, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }

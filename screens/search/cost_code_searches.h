@@ -16,6 +16,11 @@ QString zorSearchCCB(const QString& path, qint16 CONO, const QString& JOBNO,
 QString zorSearchCCC(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName);
 
-// The group's name for many of its codes: Phase gives "Phases", ACTIVITY "Activities", Areas
-// "Areas".
-QString costCodeGroupPlural(const QString& groupName);
+// The same for an entry field: each gives the code picked in its stored form, `typed` when none was
+// picked, and " " after the box. Failures of the store are the caller's.
+QString zorCCASearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
+                     const QString& groupName, CostCodeOrder order);
+QString zorCCBSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
+                     const QString& groupName);
+QString zorCCCSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
+                     const QString& groupName);

@@ -90,21 +90,3 @@ QString JobDirectory::jobAt(const QString& bookmark) const
 {
     return fieldAt(m_folder, "JOBLIST", "JOBNO", bookmark);
 }
-
-JobDirectory::JobNumberForm JobDirectory::jobNumberForm() const
-{
-    JobNumberForm form;
-    const QString file = storage::joinPath(m_folder, "ZORSYS.mdb");
-    if (dnIsBlank(m_folder) || !storage::pathExists(file))
-        return form;
-    OpenTable settings = openTable(file, "SYSSETTINGS");
-    if (settings.rows.RecordCount() == 0)
-        return form;
-    settings.rows.MoveFirst();
-    const int size = intOf(settings.rows["JOBNOSIZE"]);
-    if (size >= 1 && size <= form.size)
-        form.size = size;
-    if (trimmedTextOf(settings.rows["JOBNOTYPE"]).toUpper() == "N")
-        form.type = "N";
-    return form;
-}

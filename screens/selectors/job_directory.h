@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+#include "core/job_numbers.h"
+
 // Something with a code that can be chosen.
 struct CodeChoice
 {
@@ -32,14 +34,8 @@ public:
     QString companyAt(const QString& bookmark) const;
     QString jobAt(const QString& bookmark) const;
 
-    // How this job site writes job numbers: "C" characters or "N" digits, 1 to 8 of them. What is
-    // not settled there is "C" and 8.
-    struct JobNumberForm
-    {
-        QString type = "C";
-        int size = 8;
-    };
-    JobNumberForm jobNumberForm() const;
+    // How this job site writes job numbers.
+    JobNoFormat jobNoFormat() const { return settledJobNoFormat(m_folder); }
 
     const QString& folder() const { return m_folder; }
 

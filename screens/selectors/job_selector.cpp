@@ -4,7 +4,6 @@
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
 
-#include "core/fit_column.h"
 #include "screens/command_runner.h"
 #include "screens/search/job_searches.h"
 #include "screens/selectors/company_selector.h"
@@ -41,7 +40,7 @@ LookUpField* tqCoJobNumber::makeJobField()
 void tqCoJobNumber::setDBPath(const QString& path)
 {
     m_directory = JobDirectory(path);
-    runCommand([this] { m_form = m_directory.jobNumberForm(); });
+    runCommand([this] { m_form = m_directory.jobNoFormat(); });
     m_job->edit().setMaxLength(m_form.size);
     // "?" and "/" open the search and never stay.
     m_job->edit().setValidator(
@@ -64,7 +63,7 @@ void tqCoJobNumber::setCoNumber(int number)
 
 QString tqCoJobNumber::JobNo() const
 {
-    return dnFitColumn(m_job->code(), m_form.type, m_form.size);
+    return storedJobNo(m_job->code(), m_form);
 }
 
 void tqCoJobNumber::setJobNo(const QString& number)

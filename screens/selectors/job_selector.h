@@ -38,7 +38,7 @@ private:
     LookUpField* makeJobField();
 
     JobDirectory m_directory;
-    JobDirectory::JobNumberForm m_form;
+    JobNoFormat m_form;
     LookUpField* m_company;
     LookUpField* m_job;
 };

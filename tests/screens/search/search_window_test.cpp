@@ -1,5 +1,6 @@
 #include "screens/search/search_window.h"
 
+#include "core/cost_code_groups.h"
 #include "screens/browse/browse_grid.h"
 #include "screens/search/cost_code_searches.h"
 #include "screens/search/inventory_searches.h"
