@@ -145,16 +145,13 @@ QString dnLongDate(const QString& date)
 
 QString dnPEDateRange(const QString& peDate, const QString& date2, bool showsPeriodEnds)
 {
-    constexpr int daysBefore = 6;
     const auto fixedOr = [](const QString& text) {
         const QString fixed = dnFixDate(text);
         return fixed.trimmed().isEmpty() ? text : fixed;
     };
     const QString first = fixedOr(peDate);
     const QString last = fixedOr(date2);
-    const QDate end = dayOf(first);
-    const QString begin = end.isValid() ? end.addDays(-daysBefore).toString("MM/dd/yyyy") : first;
-    QString text = "From " + begin + " to " + last;
+    QString text = "From " + first + " to " + last;
     if (showsPeriodEnds && first != last)
         text += "  (PE " + first + " to PE " + last + ")";
     return text;

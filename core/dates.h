@@ -27,8 +27,7 @@ QString dnDateKey(const QString& text);
 // Such as "Saturday, March 7th, 2026"; "Invalid Date: " and the text when it is no date.
 QString dnLongDate(const QString& date);
 
-// The days of the weekly periods that end on `peDate` to `date2`: "From 03/01/2026 to 03/07/2026",
-// from the first day of the first period to the last of the last. Where `showsPeriodEnds` is set
+// The label of a report's period: "From 03/07/2026 to 03/14/2026". Where `showsPeriodEnds` is set
 // and the two differ, followed by "  (PE 03/07/2026 to PE 03/14/2026)". What is no date stays as it
 // is.
 QString dnPEDateRange(const QString& peDate, const QString& date2, bool showsPeriodEnds);

@@ -42,9 +42,8 @@ Value valueForNull(const storage::Field& field)
 
 bool holdsKeys(const Recordset& rs, KeyFields keys)
 {
-    return std::all_of(keys.begin(), keys.end(), [&rs](const KeyField& key) {
-        return dnNullCheck(rs[key.field]) == key.key;
-    });
+    return std::all_of(keys.begin(), keys.end(),
+                       [&rs](const KeyField& key) { return holdsKey(rs[key.field], key.key); });
 }
 
 }  // namespace
@@ -111,6 +110,14 @@ bool goToFound(Recordset& rs, const QString& bookmark)
             throw;
         return false;
     }
+}
+
+bool holdsKey(const storage::Field& field, const Value& key)
+{
+    const Value value = dnNullCheck(field);
+    const auto* held = value.as<QString>();
+    const auto* asked = key.as<QString>();
+    return held && asked ? held->compare(*asked, Qt::CaseInsensitive) == 0 : value == key;
 }
 
 bool dnInbounds(Recordset& rs, KeyFields keys)

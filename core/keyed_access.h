@@ -61,7 +61,11 @@ inline int intOf(const storage::Field& field)
 bool goToFound(storage::Recordset& rs, const QString& bookmark);
 
 // True if `rs` stands on a record whose fields equal the keys, nulls read as above; at most nine.
+// Texts are the same in any case, as they are for an index, where "a1" may stand between "A1" and
+// "A1": a walk that began within its keys ends only where they end.
 bool dnInbounds(storage::Recordset& rs, KeyFields keys);
+// The comparison of one field in it.
+bool holdsKey(const storage::Field& field, const storage::Value& key);
 
 // Where to stand when the record at `bookmark` will have been deleted: the next record within the
 // keys, else the one before, else " ".

@@ -93,7 +93,9 @@ QString dnKeyToChar(int keyCode, bool shift)
         const QChar letter(keyCode);
         return shift ? letter : letter.toLower();
     }
-    if (keyCode == ' ' || (keyCode >= '0' && keyCode <= '9'))
+    if (keyCode >= '0' && keyCode <= '9')
+        return shift ? QChar(")!@#$%^&*("[keyCode - '0']) : QChar(keyCode);
+    if (keyCode == ' ')
         return QChar(keyCode);
     if (keyCode >= 96 && keyCode <= 111)
         return numberPadCharacter(keyCode);

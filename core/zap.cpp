@@ -37,22 +37,37 @@ void makeAnew(const QString& file, const QString& table)
     wksTEMP.Close();
 }
 
+// A table that held rows leaves `rs` closed.
+void empty(const QString& folder, const QString& file, storage::Recordset& rs)
+{
+    if (rs.RecordCount() == 0)
+        return;
+    const QString table = rs.Name();
+    const bool keepsTable = storage::pathExists(storage::joinPath(folder, "NOZAP.txt"));
+    if (keepsTable)
+        deleteRows(rs);
+    rs.Close();
+    if (!keepsTable)
+        makeAnew(storage::joinPath(folder, file), table);
+}
+
 }  // namespace
+
+OpenTable emptiedTable(const QString& folder, const QString& file, const QString& table)
+{
+    OpenTable opened = openTable(folder, file, table);
+    empty(folder, file, opened.rows);
+    if (!opened.rows.isOpen())
+        opened = openTable(folder, file, table);
+    return opened;
+}
 
 bool dnZap(const QString& path, const QString& dbName, storage::Recordset& rs)
 {
     QString table;
     try {
         table = rs.Name();
-        if (rs.RecordCount() == 0)
-            return true;
-        if (storage::pathExists(storage::joinPath(path, "NOZAP.txt"))) {
-            deleteRows(rs);
-            rs.Close();
-            return true;
-        }
-        rs.Close();
-        makeAnew(storage::joinPath(path, dnIsBlank(dbName) ? QString("MAIN.mdb") : dbName), table);
+        empty(path, dnIsBlank(dbName) ? QString("MAIN.mdb") : dbName, rs);
         return true;
     } catch (const storage::StorageError& error) {
         showCritical("Error: dnZap",

@@ -61,10 +61,10 @@ TEST(Dates, AreWrittenOutForReports)
     EXPECT_EQ(dnLongDate("2/29/23"), "Invalid Date: 2/29/23") << "no such day in that year";
     EXPECT_EQ(dnLongDate("soon"), "Invalid Date: soon");
 
-    EXPECT_EQ(dnPEDateRange("3/7/26", "3/7/26", true), "From 03/01/2026 to 03/07/2026");
+    EXPECT_EQ(dnPEDateRange("3/7/26", "3/7/26", true), "From 03/07/2026 to 03/07/2026");
     EXPECT_EQ(dnPEDateRange("3/7/26", "3/14/26", true),
-              "From 03/01/2026 to 03/14/2026  (PE 03/07/2026 to PE 03/14/2026)");
-    EXPECT_EQ(dnPEDateRange("3/7/26", "3/14/26", false), "From 03/01/2026 to 03/14/2026");
+              "From 03/07/2026 to 03/14/2026  (PE 03/07/2026 to PE 03/14/2026)");
+    EXPECT_EQ(dnPEDateRange("3/7/26", "3/14/26", false), "From 03/07/2026 to 03/14/2026");
     const FixedSystem machine;
     EXPECT_EQ(dnNowStamp(), "03/07/2026  09:05 AM");
 }

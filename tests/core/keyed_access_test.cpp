@@ -100,6 +100,12 @@ TEST_F(KeyedAccess, StandsWithinTheParentAfterADeletion)
     jobs.rows.MoveLast();
     jobs.rows.MoveNext();
     EXPECT_FALSE(dnInbounds(jobs.rows, company)) << "past the end is within nothing";
+
+    // An index keeps texts that differ in case together, so that a walk must not end at one.
+    const QString mixed = dnSeek(jobs.rows, "JOBLIST", {{"CONO", 1}, {"JOBNO", "b"}});
+    EXPECT_NE(mixed, "");
+    EXPECT_TRUE(dnInbounds(jobs.rows, {{"CONO", 1}, {"JOBNO", "B"}}));
+    EXPECT_FALSE(dnInbounds(jobs.rows, {{"CONO", 1}, {"JOBNO", "BB"}}));
 }
 
 class Tags : public KeyedAccess
@@ -189,6 +195,25 @@ TEST_F(Zap, LeavesAnEmptyTableOpen)
     OpenTable work = site.open("ZORUSER.mdb", "DELJOBLIST");
     EXPECT_TRUE(zap(work));
     EXPECT_TRUE(work.rows.isOpen());
+}
+
+TEST_F(Zap, GivesAWorkTableOpenAndEmptyWhateverWasInIt)
+{
+    const auto addTo = [&](OpenTable table) {
+        EXPECT_EQ(table.rows.RecordCount(), 0);
+        table.rows.AddNew();
+        table.rows["CONO"] = 7;
+        table.rows.Update();
+    };
+    const auto emptied = [&] {
+        return emptiedTable(site.userFolder(), "ZORUSER.mdb", "DELJOBLIST");
+    };
+    addTo(emptied());
+    addTo(emptied());
+    site.makeMarker(site.userFolder(), "NOZAP.txt");
+    addTo(emptied());
+    EXPECT_EQ(site.rowCount("ZORUSER.mdb", "DELJOBLIST"), 1);
+    EXPECT_THROW(emptiedTable(site.userFolder(), "ZORUSER.mdb", "NOSUCH"), storage::StorageError);
 }
 
 TEST_F(KeyedAccess, StampsWhoAddedAndWhoChanged)
