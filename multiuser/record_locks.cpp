@@ -21,8 +21,12 @@ struct LockTable
     QString text(schema::FieldName field) const { return rows[field].value().toString().trimmed(); }
 };
 
-// False when another user added the row in the same moment.
-bool addLock(storage::Recordset& rows, qint32 tagNo, const QString& tableName, qint32 userTag,
+bool isError(const storage::StorageError& error, storage::ErrorNumber number)
+{
+    return error.number() == static_cast<int>(number);
+}
+
+void addLock(storage::Recordset& rows, qint32 tagNo, const QString& tableName, qint32 userTag,
              const QString& userName, qint32 session)
 {
     rows.AddNew();
@@ -32,14 +36,25 @@ bool addLock(storage::Recordset& rows, qint32 tagNo, const QString& tableName, q
     rows["RLTIMESTAMP"] = storage::Value(System::current().now()).toString();
     rows["USERTAG"] = userTag;
     rows["Session"] = session;
-    try {
-        rows.Update();
-        return true;
-    } catch (const storage::StorageError& error) {
-        rows.CancelUpdate();
-        if (error.number() != static_cast<int>(storage::ErrorNumber::DuplicateKey))
-            throw;
-        return false;
+    rows.Update();
+}
+
+// Looks for the lock's row, then does `found` or `missing`. When another session adds or deletes
+// the row in between, it begins anew.
+template <class Found, class Missing>
+void onLock(LockTable& locks, qint32 tagNo, const QString& tableName, Found found, Missing missing)
+{
+    // So often in a row it is no meeting with another session: the table itself refuses the row.
+    constexpr int mostTries = 20;
+    for (int tries = 1;; ++tries) {
+        try {
+            return locks.seek(tagNo, tableName) ? found() : missing();
+        } catch (const storage::StorageError& error) {
+            const bool isMeeting = isError(error, storage::ErrorNumber::DuplicateKey) ||
+                                   isError(error, storage::ErrorNumber::RecordDeleted);
+            if (!isMeeting || tries == mostTries)
+                throw;
+        }
     }
 }
 
@@ -68,19 +83,27 @@ bool dnRecordLock(qint32 tagNo, const QString& tableName, qint32 userTag, const 
     const std::optional<QString> path = networkDatabasePath();
     if (!path)
         return false;
-    HeldLock held;
+    std::optional<HeldLock> held;
     {
         LockTable locks(*path);
-        while (!locks.seek(tagNo, tableName))
-            if (addLock(locks.rows, tagNo, tableName, userTag, userName, session))
-                return false;
-        held = {locks.text("TABLENAME"), locks.text("RLUSERNAME"), locks.text("RLTIMESTAMP")};
+        onLock(
+            locks, tagNo, tableName,
+            [&] {
+                held = {locks.text("TABLENAME"), locks.text("RLUSERNAME"),
+                        locks.text("RLTIMESTAMP")};
+            },
+            [&] { addLock(locks.rows, tagNo, tableName, userTag, userName, session); });
     }
+    if (!held)
+        return false;
     // The file is closed while the user thinks; the lock may be another's afterwards.
-    if (showHeld(held, held.userName == userName.trimmed())) {
+    if (showHeld(*held, held->userName == userName.trimmed())) {
         LockTable locks(*path);
-        if (locks.seek(tagNo, tableName) && locks.text("RLUSERNAME") == held.userName)
-            locks.rows.Delete();
+        const auto removeOwn = [&] {
+            if (locks.text("RLUSERNAME") == held->userName)
+                locks.rows.Delete();
+        };
+        onLock(locks, tagNo, tableName, removeOwn, [] {});
     }
     return true;
 }
@@ -89,8 +112,8 @@ bool dnRecordUnlock(qint32 tagNo, const QString& tableName)
 {
     if (const std::optional<QString> path = networkDatabasePath()) {
         LockTable locks(*path);
-        if (locks.seek(tagNo, tableName))
-            locks.rows.Delete();
+        onLock(
+            locks, tagNo, tableName, [&] { locks.rows.Delete(); }, [] {});
     }
     return true;
 }

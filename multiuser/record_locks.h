@@ -2,7 +2,8 @@
 // users do not work on one document for minutes. They are advisory, and never expire.
 //
 // `tableName` is the kind of record, such as "VENDORS" or "PURCHASE ORDERS". Without a network
-// database no lock is ever taken, and edits go on. Failures of the store are the caller's.
+// database no lock is ever taken, and edits go on. Failures of the store are the caller's; that
+// another session takes or gives up the same lock in the same moment is none.
 #pragma once
 
 #include <QString>

@@ -4,6 +4,8 @@
 
 #include <QProcess>
 
+#include "core/storage/storage_error.h"
+#include "core/storage/table_definitions.h"
 #include "tests/support/fixed_system.h"
 #include "tests/support/scripted_messages.h"
 #include "tests/support/test_installation.h"
@@ -120,33 +122,60 @@ TEST_F(RecordLocks, AreNeverInTheWayOfWorkWithoutANetwork)
     EXPECT_TRUE(dnRecordUnlock(5, "VENDORS"));
 }
 
-TEST_F(RecordLocks, GoToOneOfTwoWhoTryInTheSameMoment)
+// What two processes that do the same at once tell.
+QByteArrayList bothTell(const QStringList& arguments)
 {
-    constexpr int count = 200;
     QProcess lockers[2];
     for (int number = 0; number < 2; ++number) {
         lockers[number].start(RECORD_LOCKER_PROGRAM,
-                              {QString("user%1").arg(number), QString::number(count)});
-        ASSERT_TRUE(lockers[number].waitForReadyRead(20000));
+                              QStringList{QString("user%1").arg(number)} + arguments);
+        EXPECT_TRUE(lockers[number].waitForReadyRead(20000));
         EXPECT_EQ(lockers[number].readLine(), "ready\n");
     }
     for (QProcess& locker : lockers) {
         locker.write("\n");
         locker.waitForBytesWritten();
     }
-    QList<int> got;
+    QByteArrayList lines;
     for (QProcess& locker : lockers) {
-        ASSERT_TRUE(locker.waitForFinished(60000));
+        EXPECT_TRUE(locker.waitForFinished(60000));
+        EXPECT_EQ(locker.exitStatus(), QProcess::NormalExit)
+            << locker.readAllStandardError().toStdString();
         EXPECT_EQ(locker.exitCode(), 0);
-        for (const QByteArray& line : locker.readAllStandardOutput().split('\n'))
-            if (!line.isEmpty())
-                got.append(line.toInt());
+        lines += locker.readAllStandardOutput().split('\n');
     }
+    lines.removeAll("");
+    return lines;
+}
+
+TEST_F(RecordLocks, GoToOneOfTwoWhoTryInTheSameMomentAndAreGivenUpByBoth)
+{
+    constexpr int count = 200;
+    QList<int> got;
+    for (const QByteArray& line : bothTell({QString::number(count)}))
+        got.append(line.toInt());
     std::sort(got.begin(), got.end());
     ASSERT_EQ(got.size(), count) << "each record has one holder";
     for (int tag = 1; tag <= count; ++tag)
         EXPECT_EQ(got[tag - 1], tag);
     EXPECT_EQ(lockCount(), count);
+
+    bothTell({QString::number(count), "unlock"});
+    EXPECT_EQ(lockCount(), 0);
+}
+
+TEST_F(RecordLocks, FailWhereTheTableRefusesTheirRowForAnotherReason)
+{
+    {
+        const storage::Workspace workspace = storage::CreateWorkspace("wksTEST");
+        storage::Database database = workspace.OpenDatabase(site.pathOf("ZORNET.mdb"));
+        database.TableDefs()["RECORDLOCKS"].Indexes().Append(
+            storage::CreateIndex("KINDS", {"TABLENAME"}, true));
+    }
+    EXPECT_FALSE(dnRecordLock(5, "VENDORS", 1, "pat", 77));
+    EXPECT_THROW(dnRecordLock(6, "VENDORS", 1, "pat", 77), storage::StorageError);
+    EXPECT_TRUE(dnRecordUnlock(5, "VENDORS"));
+    EXPECT_FALSE(dnRecordLock(6, "VENDORS", 1, "pat", 77));
 }
 
 }  // namespace
