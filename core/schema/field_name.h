@@ -78,11 +78,18 @@ inline constexpr FieldNames fieldNames = collectFieldNames();
 class FieldName
 {
 public:
+    // No field.
+    constexpr FieldName() = default;
     // Not a field of any table: does not compile.
     consteval FieldName(const char* literal) : m_number(numberOf(literal)) {}
 
     constexpr std::uint16_t number() const { return m_number; }
-    constexpr std::string_view text() const { return fieldNames.names[m_number]; }
+    constexpr bool isNone() const { return m_number == none; }
+    constexpr std::string_view text() const
+    {
+        return isNone() ? std::string_view() : fieldNames.names[m_number];
+    }
+    constexpr bool operator==(const FieldName&) const = default;
 
 private:
     static consteval std::uint16_t numberOf(std::string_view name)
@@ -93,7 +100,9 @@ private:
         return static_cast<std::uint16_t>(number);
     }
 
-    std::uint16_t m_number;
+    static constexpr std::uint16_t none = 0xFFFF;
+
+    std::uint16_t m_number = none;
 };
 
 }  // namespace schema
