@@ -1,5 +1,7 @@
 #include "screens/report/page_sink.h"
 
+#include <numeric>
+
 #include "core/number_format.h"
 #include "screens/report/totals.h"
 
@@ -22,6 +24,15 @@ QString orientationFor(const PageDocument& pages, int width)
     return width > pages.paper().width - usual.left - usual.right ? "L" : "P";
 }
 
+std::vector<int> fittedWidths(std::vector<int> widths, int room)
+{
+    const int asked = std::accumulate(widths.begin(), widths.end(), 0);
+    if (asked > room)
+        for (int& width : widths)
+            width = static_cast<int>(qint64(width) * room / asked);
+    return widths;
+}
+
 QString cellText(const storage::Value& value, const QString& mask)
 {
     if (value.isNull() || mask.isEmpty() || value.as<QString>())
@@ -32,16 +43,12 @@ QString cellText(const storage::Value& value, const QString& mask)
 void PageSink::begin(const ReportPlan& plan)
 {
     m_plan = plan;
-    m_width = 0;
-    for (const ReportColumn& column : plan.columns)
-        m_width += column.width;
-    // Too wide even so: all columns give way alike.
     const int room = m_pages.pageWidth() - m_pages.margins.left - m_pages.margins.right;
-    const int asked = std::max(m_width, 1);
     m_widths.clear();
     for (const ReportColumn& column : plan.columns)
-        m_widths.push_back(asked > room ? column.width * room / asked : column.width);
-    m_width = std::min(m_width, room);
+        m_widths.push_back(column.width);
+    m_widths = fittedWidths(std::move(m_widths), room);
+    m_width = std::accumulate(m_widths.begin(), m_widths.end(), 0);
     m_left = m_pages.margins.left + (room - m_width) / 2;
     m_pageSums.assign(plan.columns.size(), {});
     beginPage();
@@ -65,8 +72,8 @@ void PageSink::beginPage()
     m_y = writeReportTitle(m_pages, m_plan.title, below) + belowTitle;
     int headRows = 1;
     for (const ReportColumn& column : m_plan.columns)
-        if (column.width > 0 && column.heading.contains('\n'))
-            headRows = 2;
+        if (column.width > 0)
+            headRows = std::max(headRows, 1 + static_cast<int>(column.heading.count('\n')));
     int x = m_left;
     for (size_t column = 0; column < m_widths.size(); ++column) {
         if (m_widths[column] > 0)
@@ -131,10 +138,39 @@ void PageSink::head(size_t level, const QString& text)
 void PageSink::line(const ReportCells& cells)
 {
     const QStringList texts = textsOfCells(cells);
-    const int depth = depthOf(texts);
-    makeRoom(depth);
+    makeRoom(depthOf(texts));
     if (!m_plan.pageTotalCaption.isEmpty())
         addTo(m_pageSums, cells, m_plan);
+    drawLine(texts);
+}
+
+// A line deeper than what is left of a page of its own goes on over the next pages, where only the
+// columns that wrap have more to say.
+void PageSink::drawLine(QStringList texts)
+{
+    while (depthOf(texts) > bottom() - m_y) {
+        const int fitting = std::max(1, reportLinesIn(bottom() - m_y));
+        QStringList rest;
+        for (size_t column = 0; column < m_widths.size(); ++column) {
+            QString& text = texts[static_cast<qsizetype>(column)];
+            rest.append(QString());
+            if (!m_plan.columns[column].wraps || m_widths[column] == 0)
+                continue;
+            const QStringList lines = reportCellLines(m_widths[column], text);
+            text = lines.mid(0, fitting).join('\n');
+            rest.last() = lines.mid(fitting).join('\n');
+        }
+        if (rest.join(QString()).isEmpty())
+            break;
+        drawPart(texts, depthOf(texts));
+        texts = rest;
+        makeRoom(bottom());
+    }
+    drawPart(texts, depthOf(texts));
+}
+
+void PageSink::drawPart(const QStringList& texts, int depth)
+{
     int x = m_left;
     for (size_t column = 0; column < m_widths.size(); ++column) {
         const ReportColumn& how = m_plan.columns[column];

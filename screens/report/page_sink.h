@@ -23,6 +23,8 @@ private:
     int bottom() const;
     QStringList textsOfCells(const ReportCells& cells) const;
     int depthOf(const QStringList& texts) const;
+    void drawLine(QStringList texts);
+    void drawPart(const QStringList& texts, int depth);
     void drawTotal(const QString& caption, const ReportCells& sums);
 
     PageDocument& m_pages;
@@ -37,6 +39,9 @@ private:
 
 // What columns of these widths take: landscape where an upright page has no room for them.
 QString orientationFor(const PageDocument& pages, int width);
+
+// The widths as they are, or all narrowed alike where they need more than `room`.
+std::vector<int> fittedWidths(std::vector<int> widths, int room);
 
 // The masked text of a cell.
 QString cellText(const storage::Value& value, const QString& mask);

@@ -1,18 +1,14 @@
 #include "screens/report/report_date.h"
 
-#include "core/dates.h"
 #include "core/messages.h"
 #include "core/system.h"
-#include "core/text.h"
 #include "screens/field_keys.h"
 
 frmdnReportDate::frmdnReportDate()
-    : SmallDialog("frmdnReportDate", "Enter Report Date"),
-      m_date(new QLineEdit(System::current().now().toString("MM/dd/yyyy")))
+    : SmallDialog("frmdnReportDate", "Enter Report Date"), m_date(new DateField("txtFDATE"))
 {
-    m_date->setObjectName("txtFDATE");
+    m_date->setDate(System::current().now().toString("MM/dd/yyyy"));
     setFieldKeys(*m_date, {.keepEnter = true, .dateKeys = true});
-    QObject::connect(m_date, &QLineEdit::editingFinished, this, [this] { repair(); });
     addField("Report &Date", m_date);
     addButton("cmdOK", "&OK", [this] { takeDate(); })->setDefault(true);
     escTakes(addClosingButton("cmdCancel", "&Cancel"));
@@ -21,23 +17,12 @@ frmdnReportDate::frmdnReportDate()
 
 QString frmdnReportDate::date() const
 {
-    return m_date->text();
-}
-
-// A text that is no date stays, to be mended.
-bool frmdnReportDate::repair()
-{
-    const QString fixed = dnFixDate(m_date->text());
-    if (dnIsBlank(fixed))
-        return false;
-    if (fixed != m_date->text())
-        m_date->setText(fixed);
-    return true;
+    return m_date->date();
 }
 
 void frmdnReportDate::takeDate()
 {
-    if (repair()) {
+    if (m_date->isValid()) {
         accept();
         return;
     }

@@ -1,6 +1,7 @@
 // Asks for the date of a report that prints as of a date.
 #pragma once
 
+#include "screens/date_field.h"
 #include "screens/small_dialog.h"
 
 class frmdnReportDate : public SmallDialog
@@ -12,10 +13,9 @@ public:
     QString date() const;
 
 private:
-    bool repair();
     void takeDate();
 
-    QLineEdit* m_date;
+    DateField* m_date;
 };
 
 // Runs the dialog; blank after a cancel.

@@ -1,7 +1,8 @@
 #include "screens/report/report_fields.h"
 
-#include "core/dates.h"
 #include "core/text.h"
+#include "screens/command_runner.h"
+#include "screens/date_field.h"
 #include "screens/field_keys.h"
 #include "screens/report/report_run.h"
 
@@ -9,30 +10,91 @@ namespace {
 
 constexpr int longestShown = 60;  // characters
 
-void repairDate(QLineEdit* edit)
+// A text field with its look-up: "?" and "/" never stay.
+class SearchField : public QWidget
 {
-    const QString date = dnFixDate(edit->text());
-    if (dnNotBlank(date))
-        edit->setText(date);
-}
+public:
+    SearchField(QLineEdit* edit, const QString& name, std::function<QString()> search)
+        : m_edit(edit), m_before(edit->text()), m_search(std::move(search))
+    {
+        edit->setObjectName(name);
+        auto* button = new QToolButton;
+        button->setObjectName(name + "Search");
+        button->setText("...");
+        button->setToolTip("Search (?)");
+        button->setAccessibleName("Search");
+        button->setFocusPolicy(Qt::NoFocus);
+        auto* row = new QHBoxLayout(this);
+        row->setContentsMargins(0, 0, 0, 0);
+        row->setSpacing(4);
+        row->addWidget(edit, 1);
+        row->addWidget(button);
+        row->addStretch();
+        setFocusProxy(edit);
+        onPressed(button, [this] { open(); });
+        connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+            if (text.contains('?') || text.contains('/')) {
+                m_edit->setText(m_before);
+                runCommand([this] { open(); });
+            }
+            m_before = m_edit->text();
+        });
+    }
 
-QWidget* textControl(const ReportField& field, ReportSelection& selection,
+private:
+    void open()
+    {
+        const QString found = m_search();
+        if (dnNotBlank(found))
+            m_edit->setText(found.trimmed());
+        m_before = m_edit->text();
+    }
+
+    QLineEdit* m_edit;
+    QString m_before;
+    std::function<QString()> m_search;
+};
+
+QWidget* textControl(const ReportField& field, ReportSelection& selection, const Session& session,
                      const std::function<void()>& changed)
 {
-    const bool isDate = field.kind == ReportField::Kind::Date;
     auto* edit = new QLineEdit(selection[field.name]);
     edit->setMaximumWidth(edit->fontMetrics().averageCharWidth() * longestShown);
-    setFieldKeys(*edit, {.dateKeys = isDate});
+    setFieldKeys(*edit);
+    QWidget* control = edit;
+    if (field.search)
+        control = new SearchField(edit, field.name, [&selection, session, search = field.search] {
+            return search(selection, session);
+        });
+    // A "?" on its way to the look-up is no text; it is gone before anything is looked at.
     QObject::connect(edit, &QLineEdit::textChanged, edit,
-                     [&selection, name = QString(field.name), changed](const QString& text) {
+                     [&selection, name = QString(field.name), changed,
+                      hasSearch = bool(field.search)](const QString& text) {
+                         if (hasSearch && (text.contains('?') || text.contains('/')))
+                             return;
+                         if (selection[name] == text)
+                             return;
                          selection.set(name, text);
                          changed();
                      });
-    if (isDate) {
-        edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance("00/00/0000") * 2);
-        QObject::connect(edit, &QLineEdit::editingFinished, edit, [edit] { repairDate(edit); });
-    }
-    return edit;
+    return control;
+}
+
+// The selection has a date as it is shown, whatever form it is typed in; what is no date as typed.
+QWidget* dateControl(const ReportField& field, ReportSelection& selection,
+                     const std::function<void()>& changed)
+{
+    auto* date = new DateField(field.name);
+    date->setDate(selection[field.name]);
+    QObject::connect(date, &QLineEdit::textChanged, date,
+                     [&selection, date, name = QString(field.name), changed] {
+                         const QString value = date->isValid() ? date->date() : date->text();
+                         if (selection[name] == value)
+                             return;
+                         selection.set(name, value);
+                         changed();
+                     });
+    return date;
 }
 
 QWidget* boxControl(const ReportField& field, ReportSelection& selection,
@@ -48,51 +110,103 @@ QWidget* boxControl(const ReportField& field, ReportSelection& selection,
     return box;
 }
 
-QWidget* choiceControl(const ReportField& field, ReportSelection& selection,
-                       const std::function<void()>& changed)
+QString choiceValue(const ReportField& field, int row)
+{
+    return field.choiceValues.value(row, QString::number(row + 1));
+}
+
+// Shows the choices and the selected one; where it is not among them, the first one is selected.
+void showChoices(QComboBox& choice, const ReportField& field, ReportSelection& selection,
+                 const QStringList& choices)
+{
+    choice.clear();
+    choice.addItems(choices);
+    int row = 0;
+    while (row < choice.count() && choiceValue(field, row) != selection[field.name])
+        ++row;
+    if (row == choice.count() && field.choicesFor && row > 0) {
+        row = 0;
+        selection.set(field.name, choiceValue(field, row));
+    }
+    choice.setCurrentIndex(row < choice.count() ? row : -1);
+}
+
+QComboBox* choiceControl(const ReportField& field, ReportSelection& selection,
+                         const std::function<void()>& changed)
 {
     auto* choice = new QComboBox;
-    choice->addItems(field.choices);
-    choice->setCurrentIndex(selection[field.name].toInt() - 1);
-    QObject::connect(choice, &QComboBox::activated, choice,
-                     [&selection, name = QString(field.name), changed](int row) {
-                         selection.set(name, QString::number(row + 1));
-                         changed();
-                     });
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    showChoices(*choice, field, selection, field.choices);
+    QObject::connect(choice, &QComboBox::activated, choice, [&selection, field, changed](int row) {
+        selection.set(field.name, choiceValue(field, row));
+        changed();
+    });
     return choice;
 }
 
-}  // namespace
-
-void addReportField(QFormLayout* rows, const ReportField& field, ReportSelection& selection,
-                    const Session& session, const std::function<void()>& changed)
+std::function<void()> choicesAnew(QComboBox* choice, const ReportField& field,
+                                  ReportSelection& selection, const Session& session)
 {
-    QWidget* control = nullptr;
-    switch (field.kind) {
-        case ReportField::Kind::Text:
-        case ReportField::Kind::Date:
-            control = textControl(field, selection, changed);
-            break;
-        case ReportField::Kind::Box:
-            control = boxControl(field, selection, changed);
-            break;
-        case ReportField::Kind::Choice:
-            control = choiceControl(field, selection, changed);
-            break;
-        case ReportField::Kind::Remark:
-            control = new QLabel(field.caption);
-            break;
-        case ReportField::Kind::Own:
-            control = field.make(selection, session);
-            break;
-    }
-    control->setObjectName(field.name);
+    if (!field.choicesFor)
+        return {};
+    return [choice, field, &selection, session] {
+        runCommand([&] {
+            const QStringList choices = field.choicesFor(selection, session);
+            QStringList shown;
+            for (int row = 0; row < choice->count(); ++row)
+                shown.append(choice->itemText(row));
+            if (choices != shown)
+                showChoices(*choice, field, selection, choices);
+        });
+    };
+}
+
+void addRow(QFormLayout* rows, const ReportField& field, QWidget* control)
+{
     const bool showsCaption = field.kind != ReportField::Kind::Box &&
                               field.kind != ReportField::Kind::Remark && !field.caption.isEmpty();
     if (showsCaption)
         rows->addRow(field.caption, control);
     else
         rows->addRow(control);
+}
+
+}  // namespace
+
+std::function<void()> addReportField(QFormLayout* rows, const ReportField& field,
+                                     ReportSelection& selection, const Session& session,
+                                     const std::function<void()>& changed)
+{
+    QWidget* control = nullptr;
+    std::function<void()> refresh;
+    switch (field.kind) {
+        case ReportField::Kind::Text:
+            control = textControl(field, selection, session, changed);
+            break;
+        case ReportField::Kind::Date:
+            control = dateControl(field, selection, changed);
+            break;
+        case ReportField::Kind::Box:
+            control = boxControl(field, selection, changed);
+            break;
+        case ReportField::Kind::Choice: {
+            QComboBox* choice = choiceControl(field, selection, changed);
+            refresh = choicesAnew(choice, field, selection, session);
+            control = choice;
+            break;
+        }
+        case ReportField::Kind::Remark:
+            control = new QLabel(field.caption);
+            break;
+        case ReportField::Kind::Own:
+            control = field.make(selection, session, changed);
+            break;
+    }
+    // That of a field with a look-up is the line edit's.
+    if (!control->findChild<QWidget*>(field.name))
+        control->setObjectName(field.name);
+    addRow(rows, field, control);
+    return refresh;
 }
 
 void addWorkbookFields(QFormLayout* rows, ReportRun& run)

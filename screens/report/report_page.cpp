@@ -139,8 +139,9 @@ void dnReportBoxField(PageDocument& pages, const PageBox& box, const QString& la
         pages.writeText(text.left(fittingLength(text, pages.style.font, room)));
         return;
     }
+    const int first = y;
     for (const QString& line : wrappedLines(text, pages.style.font, room)) {
-        if (y + pages.heightOfLine() > box.top + box.height)
+        if (y > first && y + pages.heightOfLine() > box.top + box.height)
             return;
         pages.setPosition(x, y);
         pages.writeText(line);
@@ -182,6 +183,19 @@ int reportCellDepth(const PageBox& box, const QString& text, CellFlags flags)
 {
     const PageFont font = cellFont(text, roomIn(box), flags);
     return depthOf(box, cellLines(box, text, font, flags.wraps).size(), font);
+}
+
+QStringList reportCellLines(int width, const QString& text)
+{
+    const CellFlags flags{.wraps = true};
+    const PageBox box{0, 0, width, 0};
+    return cellLines(box, text, cellFont(text, roomIn(box), flags), true);
+}
+
+int reportLinesIn(int depth)
+{
+    const PageFont font = cellFont({}, 0, {.wraps = true});
+    return (depth - cellPadding) / lineHeight(font);
 }
 
 int dnReportCell(PageDocument& pages, const PageBox& box, const QString& text, CellFlags flags)

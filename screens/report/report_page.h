@@ -22,7 +22,8 @@ struct BoxFieldFlags
     bool large = false;  // the text in Times New Roman 14, otherwise in Courier New 10
     bool wraps = false;
 };
-// A box with a small label in its corner and the text below it.
+// A box with a small label in its corner and the text below it. A text that wraps has its first
+// line always, further ones as the box has room.
 void dnReportBoxField(PageDocument& pages, const PageBox& box, const QString& label,
                       const QString& text, BoxFieldFlags flags = {});
 
@@ -49,6 +50,10 @@ int dnReportCell(PageDocument& pages, const PageBox& box, const QString& text,
 
 // The depth that dnReportCell would give.
 int reportCellDepth(const PageBox& box, const QString& text, CellFlags flags = {});
+
+// The lines of a cell that wraps, and how many of them a cell of this depth holds.
+QStringList reportCellLines(int width, const QString& text);
+int reportLinesIn(int depth);
 
 // "Letter, 8½ x 11 in." and so on; "Invalid Size Detected" for a paper other than the three.
 QString paperSizeText(const PaperSize& paper);

@@ -7,6 +7,7 @@
 #include "core/number_format.h"
 #include "core/storage/file_paths.h"
 #include "screens/command_runner.h"
+#include "screens/report/remembered_fields.h"
 #include "screens/report/report_page.h"
 #include "screens/report/workbook_sink.h"
 #include "screens/system_dialogs.h"
@@ -46,6 +47,7 @@ ReportRun::ReportRun(ReportSpec spec, Session session)
     pages.setPaper(m_spec.paper.value_or(systemPaper()));
     for (const ReportField& field : m_spec.fields)
         selection.set(field.name, field.value);
+    recallFields(*this);
     if (m_spec.recall)
         m_spec.recall(*this);
 }
@@ -59,8 +61,13 @@ void ReportRun::setState(State state, const QString& processText)
 
 void ReportRun::begin()
 {
-    if (isRunning())
+    if (isRunning() || !m_spec.canBegin)
         return;
+    if (!runningReports().isEmpty()) {
+        showCritical("Cannot Print Report",
+                     "Another Report is Being Printed. Wait for its End or Cancel it.");
+        return;
+    }
     if (m_spec.check) {
         if (const auto refusal = m_spec.check(*this)) {
             showCritical(refusal->title, refusal->text);
@@ -69,12 +76,11 @@ void ReportRun::begin()
     }
     m_isCancelled = false;
     m_isBroken = false;
-    m_rowCount = 0;
-    m_expectedRows = 0;
     m_status.clear();
     m_furtherSinks.clear();
-    m_sinceBegin.start();
+    expectRows(0);
     m_sinceLived.start();
+    rememberFields(*this);
     if (m_spec.remember)
         m_spec.remember(*this);
     if (offersWorkbook() && selection.isTicked("ckbCreateExcel")) {
@@ -118,6 +124,13 @@ void ReportRun::printGuarded()
     isWhole = runCommand([this] { m_spec.print(*this); });
 }
 
+void ReportRun::expectRows(int count)
+{
+    m_rowCount = 0;
+    m_expectedRows = count;
+    m_sinceStep.start();
+}
+
 bool ReportRun::proceed()
 {
     ++m_rowCount;
@@ -138,7 +151,8 @@ void ReportRun::letLive()
 void ReportRun::showStatus(const QString& text)
 {
     m_status = text;
-    m_processText = text;
+    if (!text.isEmpty())
+        m_processText = text;
     letLive();
 }
 
@@ -147,7 +161,7 @@ QString ReportRun::progressText() const
     if (m_expectedRows <= 0 || m_rowCount <= 0 || m_rowCount > m_expectedRows)
         return count(m_rowCount);
     const QString text = count(m_rowCount) + " of " + count(m_expectedRows);
-    const qint64 elapsed = m_sinceBegin.elapsed();
+    const qint64 elapsed = m_sinceStep.elapsed();
     constexpr qint64 tooSoonToTell = 500;
     if (elapsed < tooSoonToTell)
         return text;

@@ -24,8 +24,9 @@ public:
     PageDocument pages;
 
     // ---- the user
-    // A refusal and a failure of the store are shown. Does nothing while a run is under way. The
-    // screen must not go before it returns.
+    // A refusal and a failure of the store are shown. Does nothing while this run is under way. One
+    // report runs at a time: while another does, which waits as long as this would run, it is
+    // refused. The screen must not go before it returns.
     void begin();
     void requestCancel() { m_isCancelled = m_isCancelled || isRunning(); }
     // Every run that is under way, when the program ends.
@@ -38,10 +39,16 @@ public:
     const QString& processText() const { return m_processText; }  // of lblProcess
 
     // ---- the report
-    // After each row; false as soon as the run is cancelled.
+    // After each row of the step in hand; false as soon as the run is cancelled. The lines of a
+    // list report do it themselves.
     bool proceed();
-    void expectRows(int count) { m_expectedRows = count; }
-    // In place of the page that is being printed, until the next text or the end.
+    // A step begins, of so many rows, or of an unknown number where it is 0: the count of rows
+    // starts over, and so do progress and time left. A report that fills a work table first calls
+    // it before each of its two steps, so that "1,200 of 50,000" are rows of the step whose text
+    // showStatus shows; a report that never calls it shows the count alone.
+    void expectRows(int count);
+    // In place of the page that is being printed, until the next text or the end; a blank one shows
+    // the page again.
     void showStatus(const QString& text);
 
     // The sinks of this run beside the paper: the workbook, when one is wanted.
@@ -52,7 +59,7 @@ public:
     QString workbookPath() const;  // in the user's folder
 
     // ---- what the screen shows of a run
-    int rowCount() const { return m_rowCount; }
+    int rowCount() const { return m_rowCount; }  // of the step in hand
     int expectedRows() const { return m_expectedRows; }
     // Such as "1,200 of 50,000, 0:12 left"; the count alone where no end is known.
     QString progressText() const;
@@ -79,7 +86,7 @@ private:
     std::vector<std::unique_ptr<ReportSink>> m_furtherSinks;
     int m_rowCount = 0;
     int m_expectedRows = 0;
-    QElapsedTimer m_sinceBegin;
+    QElapsedTimer m_sinceStep;
     QElapsedTimer m_sinceLived;
 };
 

@@ -14,7 +14,10 @@ using ReportCells = std::vector<storage::Value>;
 
 struct ReportColumn
 {
-    QString heading;    // on paper; a '\n' parts two rows
+    // On paper a '\n' begins a further row of the head. In a workbook, which has two head rows
+    // always, what stands before the first '\n' is the upper cell and the rest the lower one; a
+    // heading without it is the lower cell alone.
+    QString heading;
     int width = 0;      // twips on paper; 0: in the workbook only
     QString mask = {};  // of a number; blank: text
     bool isCentred = false;

@@ -7,6 +7,7 @@
 #include <functional>
 #include <optional>
 
+#include "core/schema/field_name.h"
 #include "core/session.h"
 #include "screens/report/page_document.h"
 
@@ -14,6 +15,7 @@ class QWidget;
 class ReportRun;
 
 // The values of a report's own fields by their system names; ticked boxes are "-1", others "0".
+// The box for a workbook is "ckbCreateExcel".
 class ReportSelection
 {
 public:
@@ -26,23 +28,47 @@ private:
     QHash<QString, QString> m_values;
 };
 
+// A value of the selection and the field of VEXSETTINGS in which it is remembered.
+struct RememberedValue
+{
+    QString value;
+    schema::FieldName setting;
+};
+
 struct ReportField
 {
     enum class Kind {
         Text,
-        Date,    // with the date keys; repaired when it is left
+        Date,    // a field with date keys and calendar; its value is as shown, 03/07/2026
         Box,     // to be ticked
-        Choice,  // one of `choices`; its value is the number of the choice, from 1
+        Choice,  // one of `choices`
         Remark,  // no value, the caption only
         Own      // a control of the screen's own, made by `make`
     };
     Kind kind;
-    const char* name;  // system name; an own control may set further values
-    QString caption;   // with its key
+    const char* name;      // system name; an own control may set further values
+    QString caption = {};  // with its key
     QString value = {};
+    // Where the value is remembered for the user: a field of VEXSETTINGS, which may be a Boolean, a
+    // number, a date or a text. It is read when the screen opens and written at Begin, once the
+    // check has passed. While nothing is remembered (blank, 0, no date) `value` stays; what the
+    // field cannot hold is not written.
+    schema::FieldName setting = {};
     QStringList choices = {};
-    // The control belongs to the caller. It keeps the selection up to date, which lives longer.
-    std::function<QWidget*(ReportSelection&, const Session&)> make = {};
+    // In place of `choices` where the selection decides them; asked anew after each change.
+    std::function<QStringList(const ReportSelection&, const Session&)> choicesFor = {};
+    // The values that belong to the choices, such as "A", "B" and "C"; none: their numbers, from 1.
+    QStringList choiceValues = {};
+    // Of a Text: "?" or "/", typed, and a button open a look-up, which gives the text; blank when
+    // nothing was chosen.
+    std::function<QString(const ReportSelection&, const Session&)> search = {};
+    // The control belongs to the caller. It keeps the selection up to date, which lives longer, and
+    // calls `changed` when the user has changed something. jobDateField and its like
+    // (screens/selectors/report_selectors.h) are fields of this kind, ready-made.
+    std::function<QWidget*(ReportSelection&, const Session&, const std::function<void()>& changed)>
+        make = {};
+    // Where the values of an own control are remembered.
+    std::vector<RememberedValue> settings = {};
 };
 
 struct ReportRefusal
@@ -56,11 +82,14 @@ struct ReportSpec
     QString name;
     QString caption = {};
     std::vector<ReportField> fields = {};
-    // Reads the remembered values into the selection when the screen opens; at Begin, once the
-    // check has passed, `remember` writes them back.
+    // Of the box that asks for a workbook, as ReportField::setting.
+    schema::FieldName workbookSetting = {};
+    // For what is remembered elsewhere than in a field's `setting`: read when the screen opens, and
+    // written at Begin, once the check has passed.
     std::function<void(ReportRun&)> recall = {};
     std::function<void(ReportRun&)> remember = {};
     std::function<std::optional<ReportRefusal>(const ReportRun&)> check = {};
+    bool canBegin = true;  // false: only the way out is left
     // From dnReportBegin to dnReportEnd.
     std::function<void(ReportRun&)> print;
     // The name of the workbook in the user's folder, such as "POLOG.xls"; none: paper only.

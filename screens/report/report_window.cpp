@@ -45,20 +45,34 @@ void ReportWindow::focusFirst()
     QWidget* first = m_fields->nextInFocusChain();
     while (m_fields->isAncestorOf(first) && !(first->focusPolicy() & Qt::TabFocus))
         first = first->nextInFocusChain();
-    (m_fields->isAncestorOf(first) ? first : m_begin)->setFocus();
+    (m_fields->isAncestorOf(first) ? first
+     : m_run.spec().canBegin       ? static_cast<QWidget*>(m_begin)
+                                   : m_exit)
+        ->setFocus();
 }
 
 void ReportWindow::buildFields()
 {
     auto* rows = new QFormLayout(m_fields);
     rows->setContentsMargins(0, 0, 0, 4);
+    const auto changed = [this] {
+        m_run.selectionChanged();
+        askChoices();
+    };
     for (const ReportField& field : m_run.spec().fields)
-        addReportField(rows, field, m_run.selection, m_run.session(),
-                       [this] { m_run.selectionChanged(); });
+        if (auto ask = addReportField(rows, field, m_run.selection, m_run.session(), changed))
+            m_choices.push_back(std::move(ask));
+    askChoices();
     if (m_run.offersWorkbook())
         addWorkbookFields(rows, m_run);
     m_fields->setObjectName("fraSelection");
     m_fields->setVisible(rows->rowCount() > 0);
+}
+
+void ReportWindow::askChoices()
+{
+    for (const std::function<void()>& ask : m_choices)
+        ask();
 }
 
 QWidget* ReportWindow::buildStrip()
@@ -103,9 +117,14 @@ void ReportWindow::pressBegin()
         case ReportRun::State::Idle:
             break;
     }
+    // A control in which the keyboard still is takes what was typed when it loses it.
+    const QPointer<QWidget> before = focusWidget();
+    m_begin->setFocus();
     m_run.begin();
     if (m_run.state() == ReportRun::State::Finished)
         m_preview->setFocus();
+    else if (before)
+        before->setFocus();
     if (std::exchange(m_closesAfterRun, false))
         close();
 }
@@ -151,6 +170,7 @@ void ReportWindow::showState()
         caption = m_isMaxView ? "&Restore" : "&Max View";
     if (m_begin->text() != caption)
         m_begin->setText(caption);
+    m_begin->setVisible(m_run.spec().canBegin);
     m_process->setText(m_run.processText());
     m_process->setVisible(!m_run.processText().isEmpty());
 
@@ -165,7 +185,7 @@ void ReportWindow::showState()
     m_preview->setVisible(hasPages);
     m_emptySpace->setVisible(!hasPages);
     m_preview->setComplete(!isRunning);
-    if (isRunning && m_run.rowCount() == 0)
+    if (isRunning && m_run.rowCount() == 0 && m_run.pages.pageCount() <= 1)
         m_preview->restart();
 }
 

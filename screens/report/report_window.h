@@ -33,6 +33,7 @@ protected:
 
 private:
     void buildFields();
+    void askChoices();
     void focusFirst();
     QWidget* buildStrip();
     void pressBegin();
@@ -41,6 +42,7 @@ private:
 
     ReportRun m_run;
     QWidget* m_fields;
+    std::vector<std::function<void()>> m_choices;  // of the fields whose selection decides them
     QPushButton* m_begin;
     QPushButton* m_exit;
     QLabel* m_process;

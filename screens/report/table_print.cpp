@@ -1,5 +1,7 @@
 #include "screens/report/table_print.h"
 
+#include <numeric>
+
 #include "core/keyed_access.h"
 #include "core/locators.h"
 #include "core/messages.h"
@@ -108,6 +110,8 @@ public:
         }
     }
 
+    // False for keys that cannot be, which were told.
+    bool isUsable() const { return m_isUsable; }
     void print(ReportRun& run);
 
 private:
@@ -124,6 +128,7 @@ private:
     bool m_isUsable = true;
     std::vector<int> m_positions;  // of the columns' fields
     std::vector<int> m_keyPositions;
+    std::vector<int> m_widths;  // of the columns on this paper
     int m_left = 0;
     int m_y = 0;
 };
@@ -169,17 +174,21 @@ bool PrintedTable::begin()
 bool PrintedTable::isWithinKeys() const
 {
     for (size_t key = 0; key < m_print.keys.size(); ++key)
-        if (!(dnNullCheck(m_table.rows.Fields(m_keyPositions[key])) == m_print.keys[key].value))
+        if (!holdsKey(m_table.rows.Fields(m_keyPositions[key]), m_print.keys[key].value))
             return false;
     return true;
 }
 
-// The columns stand in the middle between the usual margins.
+// The columns stand in the middle between the usual margins, narrowed where they are too wide for
+// a landscape page.
 void PrintedTable::layOut(const PageDocument& pages)
 {
-    const int margins = pages.margins.left + pages.margins.right;
-    m_left =
-        pages.margins.left + std::max(0, (pages.pageWidth() - margins - widthOf(m_columns)) / 2);
+    const int room = pages.pageWidth() - pages.margins.left - pages.margins.right;
+    m_widths.clear();
+    for (const PrintColumn& column : m_columns)
+        m_widths.push_back(column.width);
+    m_widths = fittedWidths(std::move(m_widths), room);
+    m_left = pages.margins.left + (room - std::accumulate(m_widths.begin(), m_widths.end(), 0)) / 2;
 }
 
 void PrintedTable::beginPage(PageDocument& pages)
@@ -189,9 +198,9 @@ void PrintedTable::beginPage(PageDocument& pages)
                            {m_print.headingLine, m_print.secondHeadingLine}) +
           belowTitle;
     int x = m_left;
-    for (const PrintColumn& column : m_columns) {
-        dnReportColumnHead(pages, {x, m_y, column.width, rowHeight}, column.heading);
-        x += column.width;
+    for (size_t i = 0; i < m_columns.size(); ++i) {
+        dnReportColumnHead(pages, {x, m_y, m_widths[i], rowHeight}, m_columns[i].heading);
+        x += m_widths[i];
     }
     m_y += rowHeight;
 }
@@ -222,8 +231,8 @@ void PrintedTable::drawRow(PageDocument& pages)
             flags.alignment = TextAlignment::Right;
         if (column.isCentred)
             flags.alignment = TextAlignment::Centre;
-        dnReportCell(pages, {x, m_y, column.width, rowHeight}, cell(column, m_positions[i]), flags);
-        x += column.width;
+        dnReportCell(pages, {x, m_y, m_widths[i], rowHeight}, cell(column, m_positions[i]), flags);
+        x += m_widths[i];
     }
     m_y += rowHeight;
 }
@@ -231,7 +240,7 @@ void PrintedTable::drawRow(PageDocument& pages)
 void PrintedTable::print(ReportRun& run)
 {
     PageDocument& pages = run.pages;
-    if (!m_isUsable || !dnReportBegin(run, orientationFor(pages, widthOf(m_columns))))
+    if (!dnReportBegin(run, orientationFor(pages, widthOf(m_columns))))
         return;
     constexpr int belowRows = 1200;
     const int bottom = pages.pageHeight() - belowRows;
@@ -261,6 +270,7 @@ ReportSpec tablePrintReport(const TablePrint& print, const Session& session)
     return {
         .name = "frmdnPrint",
         .caption = print.windowTitle,
+        .canBegin = table->isUsable(),
         .print = [table](ReportRun& run) { table->print(run); },
     };
 }

@@ -48,5 +48,6 @@ void dnPrint(const TablePrint& print, const Session& session);
 // The screen itself, for those who place it; the caller owns it.
 ReportWindow* newTablePrintWindow(const TablePrint& print, const Session& session);
 
-// The report behind it, for runs without a window. Opens the file at once: StorageError.
+// The report behind it, for runs without a window. Opens the file at once: StorageError. One whose
+// keys cannot be cannot begin.
 ReportSpec tablePrintReport(const TablePrint& print, const Session& session);

@@ -41,22 +41,18 @@ std::vector<size_t> orderOf(const ReportPlan& plan)
     return order;
 }
 
-// One row, or two where a heading has two lines; the one of a single line stands in the second.
+// Two, so that the lines begin in the third row of every workbook.
 std::vector<WorkbookRow> headRowsOf(const ReportPlan& plan, const std::vector<size_t>& order)
 {
     WorkbookRow upper;
     WorkbookRow lower;
-    bool hasUpper = false;
     for (const size_t column : order) {
         const QString heading = headingOf(plan.columns[column]);
         const bool isDouble = heading.contains('\n');
-        hasUpper = hasUpper || isDouble;
         upper.emplace_back(isDouble ? storage::Value(heading.section('\n', 0, 0))
                                     : storage::Value());
         lower.emplace_back(heading.section('\n', isDouble ? 1 : 0));
     }
-    if (!hasUpper)
-        return {lower};
     return {upper, lower};
 }
 
