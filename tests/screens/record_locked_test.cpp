@@ -14,6 +14,13 @@ TEST(RecordLocked, TellsWhoHasTheRecord)
     EXPECT_EQ(labelText(*note, "lblTABLENAME"), "PURCHASE ORDERS");
     EXPECT_EQ(labelText(*note, "lblUSERNAME"), "kim");
     EXPECT_EQ(labelText(*note, "lblRLTIMESTAMP"), "03/07/2026 9:05:42 AM");
+    QStringList captions;
+    for (const QLabel* label : note->findChildren<QLabel*>())
+        captions += label->text();
+    for (const char* caption :
+         {"Table Name:", "User Name: ", "Date/Time:",
+          "The Record you are attemping to access is locked by the above user."})
+        EXPECT_TRUE(captions.contains(caption)) << caption;
     EXPECT_TRUE(control<QPushButton>(*note, "cmdREMOVE").isHidden());
     QTest::keyClick(note.get(), Qt::Key_Enter);
     EXPECT_FALSE(note->isVisible());
