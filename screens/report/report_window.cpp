@@ -39,6 +39,14 @@ ReportWindow::ReportWindow(ReportSpec spec, const Session& session)
     focusFirst();
 }
 
+// A field that loses the keyboard as it goes takes what was typed; the run has to be there still.
+ReportWindow::~ReportWindow()
+{
+    m_run.onChange = [] {};
+    m_choices.clear();
+    delete m_fields;
+}
+
 // The first field, or Begin where the report has none.
 void ReportWindow::focusFirst()
 {

@@ -18,6 +18,7 @@ class ReportWindow : public QWidget
 {
 public:
     ReportWindow(ReportSpec spec, const Session& session);
+    ~ReportWindow() override;
 
     ReportRun& run() { return m_run; }
     PagePreview& preview() { return *m_preview; }

@@ -42,6 +42,7 @@ tqCoNumber::tqCoNumber(const QString& name)
 {
     rows()->addRow("C&ompany Number:", m_company);
     setFocusProxy(m_company);
+    connect(m_company, &LookUpField::changed, this, &Selector::changed);
 }
 
 void tqCoNumber::setDBPath(const QString& path)

@@ -16,8 +16,10 @@ DateRangeFields::DateRangeFields(QFormLayout& rows, QObject* parent)
     m_refusal->setObjectName("lblDateError");
     m_refusal->setTextFormat(Qt::PlainText);
     rows.addRow(QString(), m_refusal);
-    for (DateField* field : {m_begin, m_end})
+    for (DateField* field : {m_begin, m_end}) {
         connect(field, &DateField::dateChanged, this, &DateRangeFields::check);
+        connect(field, &QLineEdit::textChanged, this, &DateRangeFields::changed);
+    }
 }
 
 void DateRangeFields::setBeginDate(const QString& date)
@@ -58,4 +60,5 @@ tqDateRange::tqDateRange(const QString& name)
     : Selector(name), m_dates(new DateRangeFields(*rows(), this))
 {
     setFocusProxy(m_dates->firstField());
+    connect(m_dates, &DateRangeFields::changed, this, &Selector::changed);
 }

@@ -27,6 +27,10 @@ public:
     // Tells what is wrong.
     void check();
 
+Q_SIGNALS:
+    // The text of a date is another one.
+    void changed();
+
 private:
     QString refusal() const;
 

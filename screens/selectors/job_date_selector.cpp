@@ -5,6 +5,7 @@
 tqCoJobDateRange::tqCoJobDateRange(const QString& name)
     : tqCoJobNumber(name), m_dates(new DateRangeFields(*rows(), this))
 {
+    connect(m_dates, &DateRangeFields::changed, this, &Selector::changed);
 }
 
 void tqCoJobDateRange::takeTyped()

@@ -19,6 +19,8 @@ tqCoJobNumber::tqCoJobNumber(const QString& name)
         Q_EMIT pairChanged();
     });
     connect(m_job, &LookUpField::codeChanged, this, &tqCoJobNumber::pairChanged);
+    for (LookUpField* field : {m_company, m_job})
+        connect(field, &LookUpField::changed, this, &Selector::changed);
 }
 
 LookUpField* tqCoJobNumber::makeJobField()

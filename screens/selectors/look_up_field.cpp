@@ -68,6 +68,7 @@ LookUpField::LookUpField(const QString& name, const QString& nameLabel, LookUpSo
     m_edit->setCompleter(completer);
     onPressed(m_button, [this] { search(); });
     connect(m_edit, &QLineEdit::textEdited, this, &LookUpField::textEdited);
+    connect(m_edit, &QLineEdit::textChanged, this, &LookUpField::changed);
     connect(m_edit, &QLineEdit::editingFinished, this, &LookUpField::takeTyped);
     connect(completer, qOverload<const QString&>(&QCompleter::activated), this,
             &LookUpField::takeTyped, Qt::QueuedConnection);
@@ -104,6 +105,7 @@ void LookUpField::check()
     m_isValid = name.has_value();
     m_name->setText(name ? *name : m_checked.isEmpty() ? QString() : m_source.notFound);
     m_name->setToolTip(m_name->text());
+    Q_EMIT changed();
 }
 
 void LookUpField::takeTyped()

@@ -46,6 +46,8 @@ public:
 Q_SIGNALS:
     // Another code was typed and checked, or chosen.
     void codeChanged();
+    // What code() or isValid() tell may have changed: at each key, and after each check.
+    void changed();
 
 private:
     void textEdited(const QString& text);

@@ -29,6 +29,9 @@ public:
 Q_SIGNALS:
     void entered();
     void left();
+    // A value or its validity may have changed, by the user or a program: at each key, when what
+    // was typed is checked, and from searches and calendars.
+    void changed();
 
 protected:
     // Checks what stands in the fields but was not checked yet.
