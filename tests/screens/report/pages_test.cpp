@@ -146,6 +146,33 @@ TEST(Pages, NarrowTheFontOfACellBeforeTheyCutItsText)
     EXPECT_EQ(reportCellDepth({0, 0, 1070, 250}, "GATE VALVE BRONZE THREADED", wraps), depth);
 }
 
+TEST(Pages, PutBoxesWithTheirLabelsAndBars)
+{
+    PageDocument pages;
+    pages.startDocument();
+    pages.setFont("Arial", 12, true);
+    dnReportBoxField(pages, {1000, 2000, 1310, 500}, "PO No.", "ABCDEFGHIJKLMN");
+    dnReportBoxField(pages, {1000, 3000, 3000, 500}, "Vendor", "Northern", {.large = true});
+    // 120 twips a character, 1,210 of room: two lines fit; in a shallow box the first one stands.
+    dnReportBoxField(pages, {1000, 4000, 1310, 700}, "Ship To", "ONE TWO THREE FOUR FIVE SIX",
+                     {.wraps = true});
+    dnReportBoxField(pages, {1000, 5000, 1310, 250}, "Note", "ONE TWO THREE", {.wraps = true});
+    EXPECT_EQ(pages.style.font.size, 12) << "as before";
+    dnReportBar(pages, {1000, 6000, 4000, 250}, "One line");
+    dnReportBar(pages, {1000, 7000, 4000, 500}, "Upper", "Lower");
+    pages.endDocument();
+    const QStringList lines = placesOn(pages, 1).trimmed().split('\n');
+    EXPECT_EQ(lines.mid(0, 8),
+              QStringList({"1060 2020 PO No.", "1100 2200 ABCDEFGHIJ", "1060 3020 Vendor",
+                           "1100 3120 Northern", "1060 4020 Ship To", "1100 4200 ONE TWO",
+                           "1100 4427 THREE FOUR", "1060 5020 Note"}));
+    EXPECT_EQ(lines.value(8), "1100 5200 ONE TWO");
+    ASSERT_EQ(lines.size(), 12) << "nothing below a box";
+    EXPECT_TRUE(lines[9].startsWith("1050 60")) << "within the band: " << lines[9].toStdString();
+    EXPECT_TRUE(lines[10].endsWith("Upper") && lines[11].endsWith("Lower"));
+    EXPECT_GT(lines[11].section(' ', 1, 1).toInt(), lines[10].section(' ', 1, 1).toInt());
+}
+
 TEST(Pages, NameTheirPaper)
 {
     EXPECT_EQ(paperSizeText(letterPaper), "Letter, 8½ x 11 in.");

@@ -15,6 +15,7 @@
 #include "tests/support/page_text.h"
 #include "tests/support/scripted_dialogs.h"
 #include "tests/support/scripted_messages.h"
+#include "tests/support/test_installation.h"
 
 namespace {
 
@@ -137,6 +138,24 @@ TEST_F(ReportRuns, GiveEachLineOnceToPaperAndWorkbookWithSubtotals)
                      "text 5100|text 1001|number 10.25", "text 5100|text 1002|number 20.5",
                      "text G/L Number Subtotal:||number 35.75", "text 6200|text 1001|number 1",
                      "text G/L Number Subtotal:||number 1", "text Report Total:||number 36.75"}));
+}
+
+TEST_F(ReportRuns, GiveEveryWorkbookTwoHeadRows)
+{
+    const QTemporaryDir folder;
+    const auto plan = [](const ReportRun&) -> ReportPlan {
+        return {.title = "Log", .columns = {{.heading = "Item", .width = 3000}}};
+    };
+    const auto walk = [](ReportRun&, ReportLines& lines) { lines.add({.cells = {"one"}}); };
+    Session session;
+    session.UserSettingsPath = folder.path();
+    ReportRun run({.name = "frmTEST",
+                   .print = listReport(plan, walk),
+                   .workbookName = [](const ReportRun&) { return "Log.xls"; }},
+                  session);
+    run.selection.tick("ckbCreateExcel");
+    run.begin();
+    EXPECT_EQ(rowsOfWorkbook(run.workbookPath()), QStringList({"", "text Item", "text one"}));
 }
 
 TEST_F(ReportRuns, PrintOnWhenTheWorkbookCannotBeWritten)
@@ -344,6 +363,135 @@ TEST_F(ReportRuns, TakeThePaperOfThePrinter)
     EXPECT_EQ(caption, "Paper Size: Invalid Size Detected");
     odd.begin();
     EXPECT_EQ(odd.processText(), "Report Finished, Press 'P' to Print");
+}
+
+TEST_F(ReportRuns, CountTheRowsOfEachStepByItself)
+{
+    QStringList seen;
+    ReportRun run(formReport(1,
+                             [&](ReportRun& self, int) {
+                                 self.expectRows(3);
+                                 for (int row = 0; row < 3; ++row)
+                                     self.proceed();
+                                 seen.append(self.progressText());
+                                 self.expectRows(1200);
+                                 self.proceed();
+                                 seen.append(self.progressText());
+                                 self.expectRows(0);
+                                 self.proceed();
+                                 seen.append(self.progressText());
+                             }),
+                  {});
+    run.begin();
+    EXPECT_EQ(seen, QStringList({"3 of 3", "1 of 1,200", "1"}));
+}
+
+TEST_F(ReportRuns, RefuseToRunInsideEachOther)
+{
+    ReportRun inner(formReport(1), {});
+    ReportRun outer(formReport(2,
+                               [&](ReportRun&, int page) {
+                                   if (page == 1)
+                                       inner.begin();
+                               }),
+                    {});
+    user.expect("Cannot Print Report",
+                "Another Report is Being Printed. Wait for its End or Cancel it.");
+    outer.begin();
+    EXPECT_EQ(inner.state(), ReportRun::State::Idle);
+    EXPECT_EQ(outer.pages.pageCount(), 2);
+    inner.begin();
+    EXPECT_EQ(inner.state(), ReportRun::State::Finished);
+}
+
+// A field of each kind, remembered in a field of each type that there is for them.
+ReportSpec rememberingReport()
+{
+    using Kind = ReportField::Kind;
+    ReportSpec spec = formReport(1);
+    spec.fields = {{.kind = Kind::Box, .name = "ckbVEXPAROPT", .setting = "VEXPAROPT"},
+                   {.kind = Kind::Date, .name = "txtBDATE", .setting = "BDATE"},
+                   {.kind = Kind::Choice,
+                    .name = "optVEXCCGROUP",
+                    .value = "A",
+                    .setting = "VEXCCGROUP",
+                    .choices = {"Group A", "Group B"},
+                    .choiceValues = {"A", "B"}},
+                   {.kind = Kind::Own,
+                    .name = "tqCoJobNumber1",
+                    .settings = {{"CONO", "CONOPAIR"}, {"JOBNO", "JOBNOPAIR"}}}};
+    spec.workbookName = [](const ReportRun&) { return "Remembered.xls"; };
+    spec.workbookSetting = "MAKEEXCELVEXPAR03";
+    return spec;
+}
+
+TEST_F(ReportRuns, RememberTheirFieldsForTheUserAndTheSite)
+{
+    const TestInstallation site;
+    Session session;
+    session.UserSettingsPath = site.userFolder();
+    session.SiteTag = 1;
+    const std::vector<std::pair<QString, QString>> chosen = {
+        {"ckbVEXPAROPT", "-1"}, {"txtBDATE", "03/01/2026"}, {"optVEXCCGROUP", "B"},
+        {"CONO", "12"},         {"JOBNO", "    1001"},      {"ckbCreateExcel", "-1"}};
+    ReportRun first(rememberingReport(), session);
+    EXPECT_EQ(first.selection["optVEXCCGROUP"], "A") << "nothing is remembered";
+    EXPECT_EQ(first.selection["CONO"], "");
+    for (const auto& [name, value] : chosen)
+        first.selection.set(name, value);
+    EXPECT_EQ(ReportRun(rememberingReport(), session).selection["CONO"], "") << "not begun";
+    first.begin();
+    const ReportRun second(rememberingReport(), session);
+    for (const auto& [name, value] : chosen)
+        EXPECT_EQ(second.selection[name], value) << name.toStdString();
+
+    first.selection.set("JOBNO", "much longer than the field");
+    first.selection.set("optVEXCCGROUP", "");
+    first.begin();
+    const ReportRun third(rememberingReport(), session);
+    EXPECT_EQ(third.selection["JOBNO"], "    1001") << "what does not fit is not written";
+    EXPECT_EQ(third.selection["optVEXCCGROUP"], "A") << "nothing is remembered again";
+
+    session.SiteTag = 2;
+    EXPECT_EQ(ReportRun(rememberingReport(), session).selection["CONO"], "") << "another site";
+    session.UserSettingsPath = site.userFolder() + "/gone";
+    user.expect("Error", "Could not Retreive User Settings.");
+    ReportRun homeless(rememberingReport(), session);
+    user.expect("Error", "Could not Save User Settings.");
+    homeless.begin();
+    EXPECT_EQ(homeless.state(), ReportRun::State::Finished);
+}
+
+TEST_F(ReportRuns, CarryACellDeeperThanAPageOverToTheNext)
+{
+    QStringList words;
+    for (int i = 0; i < 200; ++i)
+        words.append("WORD" + QString::number(i));
+    const auto plan = [](const ReportRun&) -> ReportPlan {
+        return {.title = "Log",
+                .columns = {{.heading = "Item", .width = 1500},
+                            {.heading = "Comment", .width = 1500, .wraps = true}}};
+    };
+    const auto walk = [words](ReportRun&, ReportLines& lines) {
+        lines.add({.cells = {"first", "short"}});
+        lines.add({.cells = {"deep", words.join('\n')}});
+        lines.add({.cells = {"last", "short"}});
+    };
+    ReportRun run({.name = "frmTEST", .print = listReport(plan, walk)}, {});
+    run.begin();
+    QStringList printed;
+    QStringList items;
+    for (int page = 1; page <= run.pages.pageCount(); ++page)
+        for (const PlacedText& text : textsOf(run.pages, page)) {
+            if (text.text.startsWith("WORD")) {
+                printed.append(text.text);
+                EXPECT_LT(text.y, 15840 - 1200);
+            }
+            if (text.text == "deep" || text.text == "last")
+                items.append(text.text);
+        }
+    EXPECT_EQ(printed, words);
+    EXPECT_EQ(items, QStringList({"deep", "last"}));
 }
 
 }  // namespace

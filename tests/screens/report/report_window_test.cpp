@@ -189,4 +189,55 @@ TEST_F(ReportWindows, KeepTheSelectionThatTheirFieldsShow)
     EXPECT_EQ(selection["txtBDATE"], "03/08/2026");
 }
 
+TEST_F(ReportWindows, AskForChoicesAnewAndOpenLookUps)
+{
+    using Kind = ReportField::Kind;
+    ReportSpec spec = testReport();
+    spec.fields = {
+        {.kind = Kind::Text,
+         .name = "txtJOBNO",
+         .caption = "&Job",
+         .value = "A",
+         .search = [](const ReportSelection& selection,
+                      const Session&) { return selection["txtJOBNO"] + "1 "; }},
+        {.kind = Kind::Choice,
+         .name = "optGROUP",
+         .caption = "&Group",
+         .value = "3",
+         .choicesFor = [](const ReportSelection& selection, const Session&) -> QStringList {
+             const QString job = selection["txtJOBNO"];
+             if (job == "A1")
+                 return {job + " one"};
+             return {job + " one", job + " two", job + " three"};
+         }}};
+    ReportWindow window(spec, {});
+    window.show();
+    auto& group = control<QComboBox>(window, "optGROUP");
+    EXPECT_EQ(group.currentText(), "A three");
+    press(window, "cmdBegin");
+    EXPECT_EQ(beginCaption(window), "&Max View");
+    QTest::keyClicks(&control<QLineEdit>(window, "txtJOBNO"), "?");
+    EXPECT_EQ(window.run().selection["txtJOBNO"], "A1");
+    EXPECT_EQ(control<QLineEdit>(window, "txtJOBNO").text(), "A1");
+    EXPECT_EQ(group.currentText(), "A1 one");
+    EXPECT_EQ(window.run().selection["optGROUP"], "1") << "the third one is gone";
+    EXPECT_EQ(beginCaption(window), "&Begin") << "another selection can be printed";
+    QTest::mouseClick(&control<QToolButton>(window, "txtJOBNOSearch"), Qt::LeftButton);
+    EXPECT_EQ(window.run().selection["txtJOBNO"], "A11");
+}
+
+TEST_F(ReportWindows, TakeWhatIsTypedWhenBeginIsPressedByItsKey)
+{
+    ReportWindow window(testReport(), {});
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    auto& date = control<QLineEdit>(window, "txtBDATE");
+    date.setFocus();
+    QTest::keyClicks(&date, "3/8/26");
+    control<QPushButton>(window, "cmdBegin").click();  // as its key does: the keyboard stays
+    EXPECT_EQ(window.run().selection["txtBDATE"], "03/08/2026");
+    EXPECT_EQ(beginCaption(window), "&Max View");
+    EXPECT_EQ(date.text(), "03/08/2026") << "repaired as if it had been left";
+}
+
 }  // namespace

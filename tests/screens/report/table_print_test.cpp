@@ -137,6 +137,25 @@ TEST_F(TablePrints, TurnWhenTheirColumnsAreTooWide)
     const auto turned = printed(print);
     EXPECT_EQ(turned->pages.page(1).width, 15840);
     EXPECT_FALSE(turned->pages.isLandscape()) << "the next run begins upright";
+    addCodes(1, 1);
+    print.widths = "12000|12000";
+    const auto narrowed = printed(print);
+    for (const PlacedText& text : textsOf(narrowed->pages, 1))
+        EXPECT_LE(text.x + text.width, 15840 - 500) << text.text.toStdString();
+    EXPECT_EQ(rowsOn(*narrowed, 1, "G/L Code"), QStringList("5000|Account 0"));
+}
+
+TEST_F(TablePrints, KeepRowsWhoseKeyDiffersInCase)
+{
+    for (const char* code : {"a1", "A1", "B1"})
+        site.addRow("ZORVEX.mdb", "GLCODES", {{"CONO", code[0] == 'a' ? 1 : 2}, {"GLCODE", code}});
+    TablePrint print = codesOf(1);
+    print.index = "";
+    print.fields = "GLCODE";
+    print.widths = "1400";
+    print.headings = "G/L Code";
+    print.keys = {{"A1", "GLCODE"}};
+    EXPECT_EQ(rowsOn(*printed(print), 1, "G/L Code"), QStringList({"a1", "A1"}));
 }
 
 TEST_F(TablePrints, BreakPagesAndRepeatTheirHeads)
@@ -180,6 +199,11 @@ TEST_F(TablePrints, TellKeysThatCannotBe)
     gap.keys = {{1, "CONO"}, {"", ""}, {"B", "DESC"}};
     user.expect("Error: dnSearch", "Invalid Key Count in dnPrint");
     EXPECT_EQ(printed(gap)->pages.pageCount(), 0);
+    user.expect("Error: dnSearch", "Invalid Key Count in dnPrint");
+    const std::unique_ptr<ReportWindow> window(newTablePrintWindow(gap, session));
+    window->show();
+    EXPECT_FALSE(control(*window, "cmdBegin").isVisible());
+    EXPECT_TRUE(control(*window, "CmdExit").isVisible());
 }
 
 TEST_F(TablePrints, OpenAsAScreenAndSayWhenTheirFileIsGone)
