@@ -3,6 +3,7 @@
 #include "screens/selectors/job_date_selector.h"
 #include "screens/selectors/job_list_selector.h"
 #include "screens/selectors/job_selector.h"
+#include "screens/selectors/report_selectors.h"
 #include "tests/support/fixed_system.h"
 #include "tests/support/scripted_messages.h"
 #include "tests/support/test_installation.h"
@@ -286,6 +287,40 @@ TEST_F(SelectorTest, JobListHoldsEachValidJobOnce)
     rows.setCurrentItem(rows.topLevelItem(0));
     press(window, "cmdRemoveJob");
     EXPECT_EQ(list.pairs(), std::vector({second}));
+}
+
+TEST_F(SelectorTest, IsAFieldOfReportsThatSetsTheSelectionAtEachKey)
+{
+    Session session;
+    session.JobSitePath = site.siteFolder();
+    ReportRun run({.name = "frmTEST", .print = [](ReportRun&) {}}, session);
+    run.selection.set("CONO", "1");
+    run.selection.set("JOBNO", "    1001");
+    run.selection.set("BDATE", "03/01/2026");
+    run.selection.set("EDATE", "03/07/2026");
+    int changes = 0;
+    auto* made = jobDateField().make(run.selection, session, [&] { ++changes; });
+    show(static_cast<tqCoJobDateRange*>(made));
+    EXPECT_FALSE(checkReportSelectors(run));
+    EXPECT_EQ(run.selection["PERIOD"], "From 03/01/2026 to 03/07/2026");
+    EXPECT_EQ(changes, 0) << "nobody has changed anything";
+
+    auto& end = control<QLineEdit>(window, "txtEDATE");
+    end.setFocus();
+    end.setText("2/1/26");
+    EXPECT_EQ(run.selection["EDATE"], "02/01/2026");
+    EXPECT_FALSE(run.selection.isTicked("IsValidDates"));
+    EXPECT_TRUE(run.selection.isTicked("IsValidPair"));
+    EXPECT_GT(changes, 0);
+    ASSERT_TRUE(checkReportSelectors(run));
+    EXPECT_EQ(checkReportSelectors(run)->title, "Error Detected");
+    enter("txtEDATE", "030826");
+    enter("txtJOBNO", "1009");
+    EXPECT_TRUE(run.selection.isTicked("IsValidDates"));
+    EXPECT_FALSE(run.selection.isTicked("IsValid")) << "no such job";
+    enter("txtJOBNO", "1002");
+    EXPECT_EQ(run.selection["JOBNO"], "    1002");
+    EXPECT_TRUE(run.selection.isTicked("IsValid"));
 }
 
 }  // namespace
