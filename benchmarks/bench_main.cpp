@@ -12,6 +12,7 @@ void registerPrintBenchmarks();
 void registerSearchBenchmarks();
 void registerBrowseBenchmarks();
 void registerWorkbookBenchmarks();
+void registerCostBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 // Windows drawn in memory say of each that they are.
@@ -42,5 +43,6 @@ int main(int argc, char** argv)
     registerSearchBenchmarks();
     registerBrowseBenchmarks();
     registerWorkbookBenchmarks();
+    registerCostBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }

@@ -4,8 +4,8 @@
 
 namespace {
 
-constexpr int mostRows = 500;
-constexpr int mostMilliseconds = 25;  // what other users wait at the most for their turn
+constexpr int mostRows = 2'000;
+constexpr int mostMilliseconds = 80;  // with the commit, about what other users wait at the most
 
 }  // namespace
 

@@ -1,8 +1,8 @@
 // Long runs over many rows: each write by itself would be made durable by itself, some milliseconds
 // a row, and one transaction around all would keep other users out for its whole length. A batch
-// commits what was written whenever it has some hundred rows or has held the file for some
-// hundredths of a second, between two rows. Whatever stops the run, the rows committed until then
-// stay, each whole.
+// commits between two rows, whenever it has two thousand of them or has held the file for some
+// hundredths of a second: rows beside each other share pages, which are then written once. Whatever
+// stops the run, the rows committed until then stay, each whole.
 #pragma once
 
 #include <QElapsedTimer>

@@ -75,7 +75,7 @@ bool isLineDetail(const DeletedTable& table)
     return &table >= std::begin(lineDetail) && &table < std::end(lineDetail);
 }
 
-constexpr int rowsAStep = 250;
+constexpr int rowsAStep = 1'000;
 
 // The run over the tables of one database.
 class Deletion

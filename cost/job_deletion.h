@@ -15,7 +15,7 @@ struct JobDeletionListener
     std::function<void(const QString& reportName, int count)> deleted;
     // In place of steps whose database is missing.
     std::function<void(const QString& remark)> remark;
-    // Every few hundred rows, with the table at work; false stops the run.
+    // Every thousand rows, with the table at work; false stops the run.
     std::function<bool(const QString& reportName, int count)> proceed;
 };
 

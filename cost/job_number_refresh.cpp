@@ -11,7 +11,7 @@
 namespace {
 
 constexpr const char* files[] = {"MAIN.mdb", "ZORVEX.mdb", "ZORBRQ.mdb", "JOLT.mdb", "ZORXIL.mdb"};
-constexpr int rowsAStep = 500;
+constexpr int rowsAStep = 2'000;
 constexpr int largestSize = 8;
 
 class Refresh

@@ -35,7 +35,7 @@ struct RefreshResult
 // the suite's files that the site has. Tables are found by the files' own catalogue. What is in its
 // form already is left alone, so that a second run writes nothing.
 //
-// `proceed` is called at the beginning of each table and every few hundred rows; false stops the
+// `proceed` is called at the beginning of each table and every two thousand rows; false stops the
 // run between two rows. A failure of the store is the caller's. In both cases what was rewritten
 // stays, and a new run does the rest.
 RefreshResult refreshJobNumbers(const QString& jobSitePath, const JobNoFormat& format,

@@ -162,14 +162,14 @@ TEST_F(JobDeletion, StoppedLeavesNoChildWithoutItsParentAndGoesOnNextTime)
     OpenTable orders = site.open("ZORVEX.mdb", "POLIST");
     storage::Recordset lines = orders.database.OpenRecordset("RQILIST");
     orders.workspace.BeginTrans();
-    for (int order = 1; order <= 40; ++order) {
+    for (int order = 1; order <= 60; ++order) {
         orders.rows.AddNew();
         orders.rows["POTAG"] = order;
         orders.rows["PONO"] = QString::number(order);
         orders.rows["CONO"] = 1;
         orders.rows["JOBNO"] = job;
         orders.rows.Update();
-        for (int line = 0; line < 20; ++line) {
+        for (int line = 0; line < 40; ++line) {
             lines.AddNew();
             lines["RQITAG"] = order * 100 + line;
             lines["POTAG"] = order;
@@ -183,7 +183,7 @@ TEST_F(JobDeletion, StoppedLeavesNoChildWithoutItsParentAndGoesOnNextTime)
     EXPECT_EQ(site.rowCount("MAIN.mdb", "JOBLIST"), 1);
     const QStringList left = rows("ZORVEX.mdb", "POLIST", "POTAG");
     const QStringList leftLines = rows("ZORVEX.mdb", "RQILIST", "POTAG");
-    EXPECT_EQ(40 - left.size() + 800 - leftLines.size(), 500) << "whole batches, all committed";
+    EXPECT_EQ(60 - left.size() + 2400 - leftLines.size(), 2000) << "whole batches, all committed";
     for (const QString& owner : leftLines)
         EXPECT_TRUE(left.contains(owner)) << qPrintable(owner);
     stopAt = 1000;

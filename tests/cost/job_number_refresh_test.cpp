@@ -83,7 +83,7 @@ TEST_F(Refresh, StopsWhereAskedAndIsFinishedByTheNextRun)
 {
     OpenTable cards = site.open("MAIN.mdb", "TCLIST");
     cards.workspace.BeginTrans();
-    for (int i = 0; i < 1300; ++i) {
+    for (int i = 0; i < 3300; ++i) {
         cards.rows.AddNew();
         cards.rows["JOBNO"] = QString::number(i % 7);
         cards.rows.Update();
@@ -101,12 +101,12 @@ TEST_F(Refresh, StopsWhereAskedAndIsFinishedByTheNextRun)
     const RefreshResult stopped = refreshJobNumbers(site.siteFolder(), {"C", 4}, stopEarly);
     EXPECT_FALSE(stopped.isComplete);
     EXPECT_GT(stopped.rewritten, 0);
-    EXPECT_LT(stopped.rewritten, 1300);
+    EXPECT_LT(stopped.rewritten, 3300);
     EXPECT_EQ(rowsOf(site, "MAIN.mdb", "TCLIST", {"JOBNO"}).filter("   ").size(),
               stopped.rewritten);
     const RefreshResult rest = run("C", 4);
     EXPECT_TRUE(rest.isComplete);
-    EXPECT_EQ(rest.rewritten, 1300 - stopped.rewritten);
+    EXPECT_EQ(rest.rewritten, 3300 - stopped.rewritten);
 }
 
 // Two numbers that become one cannot both stand in the list of jobs.
