@@ -23,6 +23,11 @@ OpenTable openTable(const QString& folder, const QString& file, const QString& t
     return openTable(storage::joinPath(folder, file), table);
 }
 
+OpenTable openTable(const Session& session, const QString& file, const QString& table)
+{
+    return openTable(folderOf(session, file), file, table);
+}
+
 OpenTable openLocator(const QString& name)
 {
     return openTable(name + ".mdb", name);

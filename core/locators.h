@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include "core/session.h"
 #include "core/storage/workspace.h"
 
 // Folders that are taken where an installation has not named its own.
@@ -30,6 +31,8 @@ struct OpenTable
 OpenTable openTable(const QString& path, const QString& table);
 // The same of a file in a folder; a blank folder is the current directory.
 OpenTable openTable(const QString& folder, const QString& file, const QString& table);
+// The same of a file of the system, such as "ZORVEX.mdb", where it lies for this run.
+OpenTable openTable(const Session& session, const QString& file, const QString& table);
 
 // `name` is the file without its extension: VEXPATH, DBPATHS, USERPATH, NETPATH.
 OpenTable openLocator(const QString& name);

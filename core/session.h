@@ -22,3 +22,7 @@ struct Session
     qint32 ProjTag = 0;
     QString EcoSysPath;
 };
+
+// The folder of this run's copy of a file of the system, such as "ZORVEX.mdb": of a job site's or a
+// sibling's file the job site, of the user's own his settings, blank for one beside the program.
+QString folderOf(const Session& session, const QString& file);

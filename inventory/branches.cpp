@@ -1,21 +1,15 @@
 #include "inventory/branches.h"
 
 #include "core/locators.h"
-#include "core/storage/file_paths.h"
 #include "screens/browse/browse_session.h"
 #include "screens/search/inventory_searches.h"
 
 namespace {
 
-OpenTable openSiteTable(const BrowseSession& screen, const QString& table)
-{
-    return openTable(storage::joinPath(screen.session().JobSitePath, "ZORVEX.mdb"), table);
-}
-
 // True if a record of the table has the tag as the first key of the index.
 bool isUsed(const BrowseSession& screen, const QString& table, const QString& index, int tag)
 {
-    OpenTable others = openSiteTable(screen, table);
+    OpenTable others = openTable(screen.session(), "ZORVEX.mdb", table);
     others.rows.Index(index);
     return others.rows.Seek("=", tag);
 }
@@ -43,7 +37,7 @@ QString seriesDeleteTest(const BrowseSession& screen, storage::Recordset& rows)
 
 QString binPrintTitle(const BrowseSession& screen)
 {
-    OpenTable branches = openSiteTable(screen, "ILCLIST");
+    OpenTable branches = openTable(screen.session(), "ZORVEX.mdb", "ILCLIST");
     branches.rows.Index("ILCTAG");
     if (!branches.rows.Seek("=", screen.parentKey("ILCTAG")))
         return "Bin Numbers";
@@ -74,7 +68,7 @@ BrowseSpec frmVEXILC01()
                      .heading = "Code",
                      .width = 1000,
                      .entry = "txtILCCODE",
-                     .upperCase = true,
+                     .keys = {.upperCase = true},
                      .alignment = Qt::AlignHCenter,
                      .check =
                          inOrder({required("ILCCODE", "Category Code is Empty."),
@@ -109,7 +103,7 @@ BrowseSpec frmVEXINVBIN01()
                      .heading = "Number",
                      .width = 1000,
                      .entry = "txtBINNO",
-                     .upperCase = true,
+                     .keys = {.upperCase = true},
                      .check = inOrder({required("BINNO", "Bin Number is Empty."),
                                        unusedCode("BINNO", "Duplicate Bin Number Detected.")})},
                     {.field = "BINNAME",
@@ -142,7 +136,7 @@ BrowseSpec frmVEXINVSC01()
                      .heading = "Code",
                      .width = 1000,
                      .entry = "txtSERIESCODE",
-                     .upperCase = true,
+                     .keys = {.upperCase = true},
                      .check =
                          inOrder({required("SERIESCODE", "Series Code is Empty."),
                                   unusedCode("SERIESCODE", "Duplicate Series Code Detected.")})},

@@ -24,7 +24,7 @@ BrowseSpec frmVEXTRMC01()
                      .heading = "Code",
                      .width = 800,
                      .entry = "txtTERMSCODE",
-                     .upperCase = true,
+                     .keys = {.upperCase = true},
                      .check = inOrder({required("TERMSCODE", "Terms Code is Empty."),
                                        unusedCode("TERMSCODE", "Duplicate Terms Code Detected.")})},
                     {.field = "TCNAME",

@@ -18,9 +18,12 @@ QString capitalsWithoutSeparator(const QString& folder)
 
 void selectFolder(BrowseSession& screen)
 {
-    const QString folder = chooseFolder(screen.entryText("PathText"));
-    if (!folder.isEmpty())
-        screen.setText("PathText", capitalsWithoutSeparator(folder));
+    Entry& entry = screen.entry();
+    const QString folder = chooseFolder(entry["PathText"]);
+    if (folder.isEmpty())
+        return;
+    entry.setText("PathText", capitalsWithoutSeparator(folder));
+    entry.setFocus("PathText");
 }
 
 // The job site of that name, or no record.
@@ -43,19 +46,25 @@ QString checkJobSite(const Entry& entry)
                                                             : QString();
 }
 
-void copyFolder(const Entry& entry, storage::Recordset& rows)
+class OwnSiteRules : public EntryRules
 {
-    const OpenTable site = openJobSite(entry["PATHNAME"]);
-    if (!site.rows.NoMatch())
-        rows["PathText"] = site.rows["PathText"].value();
-}
+public:
+    void complete(const Entry& entry, storage::Recordset& rows) override
+    {
+        const OpenTable site = openJobSite(entry["PATHNAME"]);
+        if (!site.rows.NoMatch())
+            rows["PathText"] = site.rows["PathText"].value();
+    }
+};
 
 void selectJobSite(BrowseSession& screen)
 {
     const QString bookmark = zorSearchJobSite();
     OpenTable sites = openLocator("DBPATHS");
-    if (goToFound(sites.rows, bookmark))
-        screen.setText("PATHNAME", trimmedTextOf(sites.rows["PATHNAME"]));
+    if (!goToFound(sites.rows, bookmark))
+        return;
+    screen.entry().setText("PATHNAME", trimmedTextOf(sites.rows["PATHNAME"]));
+    screen.entry().setFocus("PATHNAME");
 }
 
 QString searchOwnSites(const BrowseSession& screen)
@@ -82,7 +91,6 @@ BrowseSpec frmDBPBrowse()
         .name = "frmDBPBrowse",
         .caption = "Browse Job Sites",
         .file = "DBPATHS.mdb",
-        .besideProgram = true,
         .table = "DBPATHS",
         .index = "DBPATHS",
         .columns = {{.field = "PATHNAME",
@@ -90,7 +98,7 @@ BrowseSpec frmDBPBrowse()
                      .heading = "Job Site",
                      .width = 2000,
                      .entry = "txtPATHNAME",
-                     .upperCase = true,
+                     .keys = {.upperCase = true},
                      .check = required("PATHNAME", "Database Name is Empty.")},
                     {.field = "PathText",
                      .length = 255,
@@ -99,7 +107,7 @@ BrowseSpec frmDBPBrowse()
                      .entry = "txtPATHTEXT",
                      .tidy = capitalsWithoutSeparator,
                      .check = required("PathText", "Path String is Empty.")}},
-        .tag = {.field = "DBTAG", .file = "DBPATHS.mdb", .table = "DBTAGS", .besideProgram = true},
+        .tag = {.field = "DBTAG", .file = "DBPATHS.mdb", .table = "DBTAGS"},
         .refusals = BrowseSpec::Refusals::BoxToFirstField,
         .deleteQuestion = askToDelete("Job Site:", {"PATHNAME"}, " ", "  ?"),
         .search = [](const BrowseSession&) { return zorSearchJobSite(); },
@@ -124,7 +132,6 @@ BrowseSpec frmZORJS01()
         .name = "frmZORJS01",
         .caption = "Job Sites",
         .file = "ZORUSER.mdb",
-        .inUserFolder = true,
         .table = "DATABASES",
         .index = "DATABASES",
         .columns = {{.field = "PATHNAME",
@@ -132,13 +139,13 @@ BrowseSpec frmZORJS01()
                      .heading = "Job Site",
                      .width = 3000,
                      .entry = "txtPATHNAME",
-                     .upperCase = true,
+                     .keys = {.upperCase = true},
                      .check = checkJobSite},
                     {.field = "PathText",
                      .length = 255,
                      .heading = "Location of Database",
                      .width = 6000}},
-        .complete = copyFolder,
+        .rules = std::make_shared<OwnSiteRules>(),
         .deleteQuestion = askToDelete("Job Site:", {"PATHNAME"}, " ", "  ?"),
         .search = searchOwnSites,
         .print = {.window = "Print Job Sites", .title = "List of Job Sites"},

@@ -136,6 +136,12 @@ void BrowseList::fill(const std::vector<KeyField>& parent)
     rebuild();
 }
 
+void BrowseList::browseBy(const QString& index, const std::vector<KeyField>& parent)
+{
+    m_source.index = index;
+    fill(parent);
+}
+
 void BrowseList::clear()
 {
     BrowseFirst = BrowseLast = noBookmark;
@@ -198,7 +204,8 @@ void BrowseList::showEmpty()
 
 BrowseLine BrowseList::lineHere()
 {
-    return {BrowseLine::Kind::Record, m_rows.Bookmark(), m_readCells(m_rows)};
+    return {BrowseLine::Kind::Record, m_rows.Bookmark(), m_readCells(m_rows),
+            m_readTone ? m_readTone(m_rows) : RowTone::Plain};
 }
 
 void BrowseList::repaint()
@@ -222,17 +229,20 @@ void BrowseList::paint()
     }
 }
 
-void BrowseList::show(const QString& bookmark)
+bool BrowseList::show(const QString& bookmark)
 {
     if (bookmark.trimmed().isEmpty())
-        return;
+        return false;
+    bool isShown = false;
     guarded([&] {
         if (!goTo(bookmark) || !withinFilter())
             return;
         BrowseTop = BrowseCurrent = bookmark;
         BrowseRow = 0;
         paint();
+        isShown = true;
     });
+    return isShown;
 }
 
 void BrowseList::setRowCount(int rows)
@@ -273,7 +283,7 @@ void BrowseList::nextRow()
         // The painted rows shift; only the new one is read.
         BrowseRow = BrowseMaxRow;
         std::rotate(m_lines.begin(), m_lines.begin() + 1, m_lines.end());
-        m_lines.back() = inside ? lineHere() : BrowseLine{BrowseLine::Kind::EndOfList, {}, {}};
+        m_lines.back() = inside ? lineHere() : BrowseLine{BrowseLine::Kind::EndOfList, {}, {}, {}};
         BrowseTop = m_lines.front().kind == BrowseLine::Kind::Record ? m_lines.front().bookmark
                                                                      : noBookmark;
     });
@@ -313,7 +323,9 @@ void BrowseList::home()
     if (isEmpty())
         return;
     guarded([this] { findEnds(); });
-    isEmpty() ? showEmpty() : show(BrowseFirst);
+    if (isEmpty())
+        return showEmpty();
+    show(BrowseFirst);
 }
 
 void BrowseList::end()
@@ -321,7 +333,9 @@ void BrowseList::end()
     if (isEmpty())
         return;
     guarded([this] { findEnds(); });
-    isEmpty() ? showEmpty() : show(BrowseLast);
+    if (isEmpty())
+        return showEmpty();
+    show(BrowseLast);
 }
 
 // How many records lie between row 0 and the one at `bookmark`, which is on the page or below it.

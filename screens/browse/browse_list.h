@@ -25,6 +25,9 @@ struct BrowseSource
     std::function<bool(storage::Recordset&)> accepts = {};
 };
 
+// How a row looks, beside its texts.
+enum class RowTone { Plain, Muted, Good, Warning, Bad };
+
 struct BrowseLine
 {
     enum class Kind { Record, EndOfList, ListIsEmpty, Blank };
@@ -32,6 +35,7 @@ struct BrowseLine
     Kind kind = Kind::Blank;
     QString bookmark = noBookmark;
     QStringList cells;
+    RowTone tone = RowTone::Plain;
 };
 
 class BrowseList
@@ -41,6 +45,9 @@ public:
     using ReadCells = std::function<QStringList(storage::Recordset&)>;
 
     explicit BrowseList(ReadCells readCells) : m_readCells(std::move(readCells)) {}
+
+    // Rows have no tone of their own without this.
+    void readTonesBy(std::function<RowTone(storage::Recordset&)> read) { m_readTone = read; }
 
     // Opens the file, in a workspace of its own. The list is empty until `fill`.
     void open(const BrowseSource& source, const QString& workspaceName);
@@ -55,9 +62,11 @@ public:
     void rebuild();
     // Another index; the record under the highlight stays.
     void useIndex(const QString& index);
-    // `bookmark` to row 0, under the highlight. Nothing happens, and nothing is said, for a blank
-    // one and for a record outside the list.
-    void show(const QString& bookmark);
+    // Another index and other keys, its first fields, in one step; the list from its first record.
+    void browseBy(const QString& index, const std::vector<KeyField>& parent);
+    // `bookmark` to row 0, under the highlight. False, and nothing happens, for a blank one and for
+    // a record outside the list.
+    bool show(const QString& bookmark);
     // How many rows the page has, at least one; the highlight stays in view.
     void setRowCount(int rows);
 
@@ -128,6 +137,7 @@ private:
     void guarded(Move move);
 
     ReadCells m_readCells;
+    std::function<RowTone(storage::Recordset&)> m_readTone;
     BrowseSource m_source;
     storage::Workspace m_workspace;
     storage::Database m_database;

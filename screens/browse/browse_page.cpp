@@ -4,6 +4,28 @@
 #include <QFont>
 #include <QPalette>
 
+namespace {
+
+// A hint of the tone's colour in the background of the palette in use, on which its text is read.
+QVariant toneBrush(RowTone tone)
+{
+    QColor hue;
+    if (tone == RowTone::Good)
+        hue = QColor(0x2e, 0xa0, 0x43);
+    else if (tone == RowTone::Warning)
+        hue = QColor(0xd2, 0x99, 0x22);
+    else if (tone == RowTone::Bad)
+        hue = QColor(0xcf, 0x22, 0x2e);
+    else
+        return {};
+    const QColor base = QApplication::palette().color(QPalette::Base);
+    const auto mixed = [](int a, int b) { return (a * 3 + b) / 4; };
+    return QBrush(QColor(mixed(base.red(), hue.red()), mixed(base.green(), hue.green()),
+                         mixed(base.blue(), hue.blue())));
+}
+
+}  // namespace
+
 void BrowsePage::setColumns(const std::vector<GridColumn>& columns)
 {
     beginResetModel();
@@ -77,8 +99,11 @@ QVariant BrowsePage::data(const QModelIndex& index, int role) const
             return QVariant(isRecord ? m_columns[column].alignment | Qt::AlignVCenter
                                      : Qt::AlignLeft | Qt::AlignVCenter);
         case Qt::ForegroundRole:
-            return isRecord ? QVariant()
-                            : QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+            return isRecord && line.tone != RowTone::Muted
+                       ? QVariant()
+                       : QApplication::palette().brush(QPalette::Disabled, QPalette::Text);
+        case Qt::BackgroundRole:
+            return toneBrush(line.tone);
         default:
             return {};
     }

@@ -33,32 +33,35 @@ void BrowseSession::print()
     QStringList widths;
     QStringList formats;
     for (const BrowseColumn& column : m_spec.columns) {
+        if (!column.isPrinted)
+            continue;
         fields.append(nameOf(column.field));
         const storage::FieldType type = m_list.typeOf(column.field);
         types.append(type == storage::FieldType::Boolean ? "B" : isText(type) ? "C" : "N");
         lengths.append(QString::number(column.length));
         headings.append(column.heading);
         widths.append(QString::number(column.width));
-        formats.append((column.format[0] != '\0' ? QString(column.format) : QString("-")) +
+        formats.append((column.format.isEmpty() ? QString("-") : column.format) +
                        (column.alignment == Qt::AlignHCenter ? "^" : ""));
     }
     std::vector<PrintKey> keys;
     for (const KeyField& key : m_list.source().parent)
         keys.push_back({key.key, nameOf(key.field)});
     const QString file = m_spec.file;
-    dnPrint({.file = m_spec.besideProgram ? locatorPath(file.section('.', 0, 0))
-                                          : storage::joinPath(folder(), file),
-             .table = m_spec.table,
-             .index = m_spec.index,
-             .windowTitle = m_spec.print.window,
-             .reportName =
-                 m_spec.print.titleFor ? m_spec.print.titleFor(*this) : QString(m_spec.print.title),
-             .fields = fields.join('|'),
-             .types = types.join('|'),
-             .lengths = lengths.join('|'),
-             .headings = headings.join('|'),
-             .widths = widths.join('|'),
-             .formats = formats.join('|'),
-             .keys = keys},
-            m_session);
+    const QString folder = folderOf(m_session, file);
+    dnPrint(
+        {.file = folder.isEmpty() ? locatorPath(file.section('.', 0, 0))
+                                  : storage::joinPath(folder, file),
+         .table = m_spec.table,
+         .index = m_spec.index,
+         .windowTitle = m_spec.print.window,
+         .reportName = m_spec.print.titleFor ? m_spec.print.titleFor(*this) : m_spec.print.title,
+         .fields = fields.join('|'),
+         .types = types.join('|'),
+         .lengths = lengths.join('|'),
+         .headings = headings.join('|'),
+         .widths = widths.join('|'),
+         .formats = formats.join('|'),
+         .keys = keys},
+        m_session);
 }

@@ -1,53 +1,33 @@
 #include "screens/browse/browse_session.h"
 
-#include "core/keys.h"
 #include "core/number_format.h"
 #include "core/storage/storage_error.h"
-#include "core/tags.h"
-#include "core/text.h"
 #include "core/window_registry.h"
+#include "multiuser/record_locks.h"
 #include "multiuser/users.h"
 
 using storage::ErrorNumber;
 using storage::StorageError;
 
-namespace {
-
-bool isNumberLike(storage::FieldType type, const QString& text)
-{
-    using storage::FieldType;
-    if (type == FieldType::Text || type == FieldType::Memo || type == FieldType::Date)
-        return true;
-    QString number = text.trimmed();
-    number.remove(',');
-    bool isNumber = true;
-    if (!number.isEmpty())
-        number.toDouble(&isNumber);
-    return isNumber;
-}
-
-}  // namespace
-
 BrowseSession::BrowseSession(BrowseSpec spec, Session session)
     : m_spec(std::move(spec)),
       m_session(std::move(session)),
-      m_list([this](storage::Recordset& rows) { return cellsOf(rows); })
+      m_list([this](storage::Recordset& rows) { return cellsOf(rows); }),
+      m_entry(entryFieldsOf(m_spec.columns), m_session)
 {
-    for (size_t i = 0; i < m_spec.columns.size(); ++i)
-        if (m_spec.columns[i].entry[0] != '\0')
-            m_entryColumns.push_back(i);
-}
-
-QString BrowseSession::folder() const
-{
-    if (m_spec.besideProgram)
-        return {};
-    return m_spec.inUserFolder ? m_session.UserSettingsPath : m_session.JobSitePath;
+    Q_ASSERT(m_spec.deleteQuestion || opensDetail() || !m_spec.mayDelete);
+    if (m_spec.tone)
+        m_list.readTonesBy([this](storage::Recordset& rows) { return m_spec.tone(*this, rows); });
 }
 
 void BrowseSession::open()
 {
-    m_list.open({.folder = folder(),
+    for (const BesideTable& beside : m_spec.besides) {
+        OpenTable opened = openTable(m_session, beside.file, beside.table);
+        opened.rows.Index(beside.index);
+        m_besides[beside.table] = opened;
+    }
+    m_list.open({.folder = folderOf(m_session, m_spec.file),
                  .file = m_spec.file,
                  .table = m_spec.table,
                  .index = m_spec.index,
@@ -59,19 +39,41 @@ void BrowseSession::open()
     m_hasParent = m_spec.parent.kind == BrowseParent::Kind::None;
     if (m_hasParent)
         m_list.fill({});
+    if (m_spec.opened)
+        m_spec.opened(*this);
 }
 
 void BrowseSession::close()
 {
+    if (m_list.isOpen() && m_spec.closing)
+        m_spec.closing(*this);
     if (m_winTag != 0)
         dnDELWINTAG(m_session.UserSettingsPath, m_winTag);
     m_winTag = 0;
     m_list.close();
+    m_besides.clear();
 }
 
+// Not the screen's `closing`, which may fail: that runs when the window closes.
 BrowseSession::~BrowseSession()
 {
+    m_spec.closing = nullptr;
     close();
+}
+
+storage::Recordset& BrowseSession::beside(const QString& table) const
+{
+    const auto found = m_besides.find(table);
+    Q_ASSERT(found != m_besides.end());
+    return const_cast<storage::Recordset&>(found->second.rows);
+}
+
+qint32 BrowseSession::currentTag()
+{
+    const QString& field = opensDetail() ? m_spec.detail.tagField : m_spec.tag.field;
+    if (field.isEmpty() || !m_list.isOnRecord() || !m_list.goToCurrent())
+        return 0;
+    return intOf(m_list.rows().fieldNamed(field));
 }
 
 storage::Value BrowseSession::parentKey(schema::FieldName field) const
@@ -92,11 +94,16 @@ void BrowseSession::setParent(const std::vector<KeyField>& parent)
         return m_list.clear();
     m_list.fill(parent);
     m_hasParent = true;
+    if (m_spec.parentChosen)
+        m_spec.parentChosen(*this);
 }
 
-const BrowseColumn& BrowseSession::entryColumn(int entry) const
+void BrowseSession::browseBy(const QString& index, const std::vector<KeyField>& keys)
 {
-    return m_spec.columns[m_entryColumns[static_cast<size_t>(entry)]];
+    if (!isBrowsing())
+        return;
+    m_hasParent = m_isParentValid = true;
+    m_list.browseBy(index, keys);
 }
 
 QStringList BrowseSession::cellsOf(storage::Recordset& rows) const
@@ -105,7 +112,7 @@ QStringList BrowseSession::cellsOf(storage::Recordset& rows) const
     for (const BrowseColumn& column : m_spec.columns)
         if (column.shows)
             cells.append(column.shows(*this, rows));
-        else if (column.format[0] != '\0')
+        else if (!column.format.isEmpty())
             cells.append(dnFormat(numberOf(rows[column.field]), column.format));
         else
             cells.append(trimmedTextOf(rows[column.field]));
@@ -127,7 +134,18 @@ bool BrowseSession::activeRecordTest(bool needsRecord)
 
 bool BrowseSession::mayChange() const
 {
-    return m_spec.editRight[0] == '\0' || dnOK2Access(m_spec.editRight, m_session.UserName, true);
+    return m_spec.editRight.isEmpty() || dnOK2Access(m_spec.editRight, m_session.UserName, true);
+}
+
+// What stands before every Add, Edit and Delete.
+bool BrowseSession::mayBegin(bool allowed, bool needsRecord)
+{
+    if (!isBrowsing() || !allowed || !activeRecordTest(needsRecord) || !mayChange())
+        return false;
+    const QString refusal = m_spec.updatesTest ? m_spec.updatesTest(*this) : QString();
+    if (!refusal.isEmpty())
+        showCritical("Updates Not Allowed.", refusal);
+    return refusal.isEmpty() && (!needsRecord || m_list.goToCurrent());
 }
 
 void BrowseSession::act()
@@ -135,42 +153,42 @@ void BrowseSession::act()
     m_list.isOnRecord() ? edit() : add();
 }
 
-void BrowseSession::beginEntry(const QString& mode, int row)
+bool BrowseSession::beginEntry(const QString& mode)
 {
+    m_entry.begin(mode, m_list.rows(), {m_list.source().parent, m_list.source().index});
+    if (m_spec.rules && !m_spec.rules->begin(m_entry))
+        return false;
     EditMode = mode;
-    m_edited = mode == "E" ? m_list.BrowseCurrent : noBookmark;
-    m_entryRow = row;
-    m_fieldToFocus = 0;
-    m_errors.ClearAll();
+    return true;
 }
 
 void BrowseSession::add()
 {
-    if (!isBrowsing() || !activeRecordTest(false) || !mayChange())
+    if (!mayBegin(m_spec.mayAdd, false))
         return;
-    if (opensDetail())
-        return openDetail("A");
-    m_texts = QStringList(entryCount(), QString());
-    beginEntry("A", m_list.makeEntryRow());
+    if (opensDetail()) {
+        openDetail("A");
+        return;
+    }
+    if (beginEntry("A"))
+        m_entryRow = m_list.makeEntryRow();
 }
 
 void BrowseSession::edit()
 {
-    if (!isBrowsing() || !activeRecordTest(true) || !mayChange() || !m_list.goToCurrent())
+    if (!mayBegin(m_spec.mayEdit, true))
         return;
     if (opensDetail())
-        return openDetail("E");
-    m_texts.clear();
-    for (int i = 0; i < entryCount(); ++i)
-        m_texts.append(trimmedTextOf(m_list.rows()[entryColumn(i).field]));
-    beginEntry("E", m_list.BrowseRow);
+        openDetail("E");
+    else if (beginEntry("E"))
+        m_entryRow = m_list.BrowseRow;
 }
 
 void BrowseSession::leaveEntry()
 {
     EditMode = " ";
-    m_errors.ClearAll();
-    m_fieldToFocus = 0;
+    m_entry.clearErrors();
+    m_entry.setFocus(0);
 }
 
 void BrowseSession::cancel()
@@ -186,85 +204,30 @@ void BrowseSession::leave()
     m_editedExisting = false;
 }
 
-void BrowseSession::setText(int entry, const QString& text)
-{
-    m_texts[entry] = entryColumn(entry).upperCase ? withTypedCapitals(text) : text;
-}
-
-void BrowseSession::setText(schema::FieldName field, const QString& text)
-{
-    for (int i = 0; i < entryCount(); ++i)
-        if (entryColumn(i).field.number() == field.number()) {
-            setText(i, text);
-            m_errors.ClearField(i + 1);
-            m_fieldToFocus = i;
-        }
-}
-
-QString BrowseSession::entryText(schema::FieldName field) const
-{
-    for (int i = 0; i < entryCount(); ++i)
-        if (entryColumn(i).field.number() == field.number())
-            return m_texts.value(i);
-    return {};
-}
-
 void BrowseSession::keepEntryInView()
 {
     m_entryRow = EditMode == "E" ? m_list.BrowseRow : std::min(m_entryRow, m_list.BrowseMaxRow);
 }
 
-// What the screen does not want, then what the column cannot hold.
-QString BrowseSession::refusalOf(int entry)
-{
-    const BrowseColumn& column = entryColumn(entry);
-    if (column.tidy)
-        setText(entry, column.tidy(m_texts[entry]));
-    const QString refusal = column.check ? column.check(Entry(*this)) : QString();
-    if (!refusal.isEmpty())
-        return refusal;
-    const storage::TableDefinition& table = m_list.rows().definition();
-    const auto position = static_cast<size_t>(table.fieldPosition(column.field));
-    if (!isNumberLike(table.fields[position].type, m_texts[entry]))
-        return QString(column.heading) + " is not a Number.";
-    try {
-        storage::fitted(table.fields[position], valueOf(column, m_texts[entry]));
-        return {};
-    } catch (const StorageError& error) {
-        return error.description();
-    }
-}
-
-void BrowseSession::validate(int entry)
-{
-    const QString refusal = refusalOf(entry);
-    if (refusal.isEmpty() || m_spec.refusals != BrowseSpec::Refusals::ErrorBox)
-        m_errors.ClearField(entry + 1);
-    else
-        m_errors.AddError(refusal, entry + 1);
-}
-
 // The newer screens: all the errors at once.
 bool BrowseSession::refuseAll()
 {
-    for (int i = 0; i < entryCount(); ++i)
-        validate(i);
-    if (m_errors.ErrorCount() == 0)
+    if (m_entry.checkAll())
         return false;
-    m_fieldToFocus = m_errors.FirstFieldInError() - 1;
-    showCritical("Cannot Update", "Errors Detected: " + QString::number(m_errors.ErrorCount()) +
-                                      '\n' + m_errors.text());
+    showCritical("Cannot Update",
+                 "Errors Detected: " + QString::number(m_entry.errors().ErrorCount()) + '\n' +
+                     m_entry.errors().text());
     return true;
 }
 
 // The older screens: the first error, and Cancel in its box leaves the entry.
 bool BrowseSession::refuseFirst()
 {
-    for (int i = 0; i < entryCount(); ++i) {
-        const QString refusal = refusalOf(i);
+    for (int i = 0; i < m_entry.count(); ++i) {
+        const QString refusal = m_entry.refusalOf(i);
         if (refusal.isEmpty())
             continue;
-        m_fieldToFocus = m_spec.refusals == BrowseSpec::Refusals::BoxToFirstField ? 0 : i;
+        m_entry.setFocus(m_spec.refusals == BrowseSpec::Refusals::BoxToFirstField ? 0 : i);
         const Answer answer = Messages::current().show({.kind = MessageKind::Critical,
                                                         .title = "Cannot Update Record",
                                                         .text = refusal,
@@ -278,11 +241,9 @@ bool BrowseSession::refuseFirst()
 
 bool BrowseSession::update()
 {
-    const bool refused =
-        m_spec.refusals == BrowseSpec::Refusals::ErrorBox ? refuseAll() : refuseFirst();
-    if (refused)
+    if (tellsErrorsAtOnce() ? refuseAll() : refuseFirst())
         return isBrowsing();
-    if (!write())
+    if ((m_spec.rules && !m_spec.rules->beforeWrite(m_entry)) || !write())
         return false;
     m_list.BrowseCurrent = m_list.rows().LastModified();
     if (EditMode == "A")
@@ -294,75 +255,56 @@ bool BrowseSession::update()
     return true;
 }
 
-// A number field takes the number that was typed, a text field the text as it stands.
-storage::Value BrowseSession::valueOf(const BrowseColumn& column, const QString& text) const
-{
-    const storage::FieldType type = m_list.typeOf(column.field);
-    if (type == storage::FieldType::Text || type == storage::FieldType::Memo)
-        return text;
-    QString number = text.trimmed();
-    number.remove(',');
-    return number.isEmpty() ? storage::Value(0) : storage::Value(number);
-}
-
 // Goes to the record that is edited. When another user deleted it, what was typed stays and the
 // next Update adds it as a new record.
 bool BrowseSession::goToEdited()
 {
-    try {
-        m_list.rows().Bookmark(m_edited);
+    if (m_entry.goToRecord())
         return true;
-    } catch (const StorageError& error) {
-        if (error.errorNumber() != ErrorNumber::RecordDeleted)
-            throw;
-    }
     showCritical("Cannot Update",
                  "Another user has deleted this record.\n"
                  "Update again to add it anew, or Cancel.");
     EditMode = "A";
+    m_entry.becomeNew();
     return false;
 }
 
 bool BrowseSession::write()
 {
-    storage::Recordset& rows = m_list.rows();
     if (EditMode == "E" && !goToEdited())
         return false;
-    qint32 tag = 0;
-    if (EditMode == "A" && m_spec.tag.field[0] != '\0')
-        tag = dnGetNewTag(m_spec.tag.besideProgram ? QString(" ") : m_session.JobSitePath,
-                          m_spec.tag.field, m_spec.tag.file, m_spec.tag.table, 0);
-    try {
-        if (EditMode == "E")
-            rows.Edit();
-        else
-            rows.AddNew();
-        for (const KeyField& key : m_list.source().parent)
-            rows[key.field] = key.key;
-        if (EditMode == "A" && m_spec.tag.field[0] != '\0')
-            rows.fieldNamed(m_spec.tag.field) = tag;  // 0, too, after a counter failed
-        for (int i = 0; i < entryCount(); ++i) {
-            m_fieldToFocus = i;
-            rows[entryColumn(i).field] = valueOf(entryColumn(i), m_texts[i]);
-        }
-        m_fieldToFocus = 0;
-        if (m_spec.complete)
-            m_spec.complete(Entry(*this), rows);
-        rows.Update();
-        return true;
-    } catch (const StorageError& error) {
-        rows.CancelUpdate();
-        showCritical("Cannot Update", error.description());
+    const qint32 tag = EditMode == "A" ? newTag(m_spec.tag, m_session) : 0;
+    if (!m_entry.write(tag, m_spec.tag, [this](storage::Recordset& rows) {
+            if (m_spec.rules)
+                m_spec.rules->complete(m_entry, rows);
+        }))
         return false;
+    if (m_spec.rules) {
+        storage::Recordset& rows = m_list.rows();
+        const QString bookmark = rows.LastModified();
+        rows.Bookmark(bookmark);
+        m_spec.rules->written(m_entry, rows);
     }
+    return true;
+}
+
+bool BrowseSession::agreesToDelete()
+{
+    return Messages::current().show({.kind = MessageKind::Question,
+                                     .title = "Confirm Delete",
+                                     .text = m_spec.deleteQuestion(m_list.rows()),
+                                     .buttons = Buttons::OkCancel,
+                                     .enterTakes = Answer::Cancel}) == Answer::Ok;
 }
 
 void BrowseSession::remove()
 {
-    if (!isBrowsing() || !activeRecordTest(true) || !mayChange() || !m_list.goToCurrent())
+    if (!mayBegin(m_spec.mayDelete, true))
         return;
-    if (opensDetail())
-        return openDetail("D");
+    if (opensDetail()) {
+        openDetail("D");
+        return;
+    }
     storage::Recordset& rows = m_list.rows();
     if (m_spec.deleteTest) {
         const QString refusal = m_spec.deleteTest(*this, rows);
@@ -370,17 +312,12 @@ void BrowseSession::remove()
             return showCritical("Cannot Delete", refusal);
     }
     const QString next = m_list.neighbour();
-    if (!m_list.goToCurrent())
-        return;
-    const Answer answer = Messages::current().show({.kind = MessageKind::Question,
-                                                    .title = "Confirm Delete",
-                                                    .text = m_spec.deleteQuestion(rows),
-                                                    .buttons = Buttons::OkCancel,
-                                                    .enterTakes = Answer::Cancel});
-    if (answer != Answer::Ok)
+    if (!m_list.goToCurrent() || !agreesToDelete())
         return;
     try {
         rows.Bookmark(m_list.BrowseCurrent);
+        if (m_spec.rules && !m_spec.rules->beforeDelete(m_session, rows))
+            return m_list.rebuild();
         rows.Delete();
     } catch (const StorageError& error) {
         // Someone was faster; the list shows it.
@@ -406,12 +343,29 @@ void BrowseSession::run(const BrowseCommand& command)
     command.run(*this);
 }
 
-void BrowseSession::openDetail(const QString& mode)
+QString BrowseSession::captionOf(const BrowseCommand& command) const
 {
-    const qint32 tag = mode == "A" ? 0 : intOf(m_list.rows().fieldNamed(m_spec.detail.tagField));
+    return command.captionFor ? command.captionFor(*this) : command.caption;
+}
+
+bool BrowseSession::takeLock(qint32 tag) const
+{
+    return m_spec.detail.lock.isEmpty() || !dnRecordLock(tag, m_spec.detail.lock, m_session.UserTag,
+                                                         m_session.UserName, m_session.SessionTag);
+}
+
+bool BrowseSession::openDetail(const QString& mode)
+{
+    const bool isNew = mode == "A";
+    if (!isBrowsing() || !activeRecordTest(!isNew) || (!isNew && !m_list.goToCurrent()))
+        return false;
+    const qint32 tag = isNew ? 0 : intOf(m_list.rows().fieldNamed(m_spec.detail.tagField));
+    if ((mode == "E" || mode == "D") && !takeLock(tag))
+        return false;
     dnSetHOTTAG(m_session.UserSettingsPath, m_winTag, tag);
-    m_openedDetail = true;
-    m_spec.detail.open(*this, mode, tag, m_winTag);
+    const bool opened = m_spec.detail.open(*this, mode, tag, m_winTag);
+    m_openedDetail = m_openedDetail || opened;
+    return opened;
 }
 
 void BrowseSession::comeToFront()

@@ -1,8 +1,8 @@
 // How a browse-and-edit screen behaves, without its widgets.
 //
 // It is browsing (EditMode blank), adding ("A") or editing ("E"). While browsing its list moves
-// (browse_list.h). An entry is typed on the row itself: the window lays its fields over
-// `entryRow()`, keeps what is typed in `setText`, and asks to validate a field when it is left.
+// (browse_list.h). An entry (screens/entry/entry.h) is typed on the row itself: the window lays its
+// fields over `entryRow()`.
 // Update validates all, refuses or writes, and browses on with the written record under the
 // highlight.
 //
@@ -10,9 +10,11 @@
 // entry in hand stays as it is typed, so that nothing typed is lost.
 #pragma once
 
+#include <map>
+
+#include "core/locators.h"
 #include "screens/browse/browse_list.h"
 #include "screens/browse/browse_spec.h"
-#include "screens/browse/error_collector.h"
 
 class BrowseSession
 {
@@ -27,18 +29,29 @@ public:
     BrowseList& list() { return m_list; }
     const BrowseList& list() const { return m_list; }
 
-    // Load and unload step. Without a parent key the list is full at once.
+    // Load and unload step. Without a parent key the list is full at once. Closing twice is no
+    // fault.
     void open();
     void close();
 
-    // The parent was chosen; an empty one leaves no list. Nothing happens in entry mode.
+    // The parent was chosen, as often as he is; an empty one leaves no list. Nothing happens in
+    // entry mode.
     void setParent(const std::vector<KeyField>& parent);
+    // Other records in another order: those whose first fields along the index are the keys, all of
+    // the table without keys; the highlight on the first. `parentKey` and `Entry::index` speak of
+    // these from now on. Nothing happens in entry mode.
+    void browseBy(const QString& index, const std::vector<KeyField>& keys);
     bool hasParent() const { return m_hasParent; }
     // What stands above the list is no parent now; the list stays that of the last good one, and
     // commands are refused.
     void setParentValid(bool valid) { m_isParentValid = valid; }
     // A key of the parent in hand; null without one.
     storage::Value parentKey(schema::FieldName field) const;
+    // A table of the spec's `besides`, open as long as the list. Move it freely.
+    storage::Recordset& beside(const QString& table) const;
+    // The tag of the record under the highlight, by the detail's tag field, else by that of new
+    // records; 0 on no record.
+    qint32 currentTag();
 
     QString EditMode = " ";
     bool isBrowsing() const { return EditMode == " "; }
@@ -51,10 +64,14 @@ public:
     void search();
     void print();
     void run(const BrowseCommand& command);
-    // This screen's number in the window registry; 0 without a detail screen. The list follows only
-    // what Add, Edit, Delete and Enter have opened.
+    // Opens the detail screen in a mode; it is about the record under the highlight unless the mode
+    // is "A". The list's row in the registry names the record first; the lock of the spec is taken
+    // for "E" and "D". False when nothing was opened.
+    bool openDetail(const QString& mode);
+    QString captionOf(const BrowseCommand& command) const;
+    // This screen's number in the window registry; 0 without a detail screen.
     qint16 winTag() const { return m_winTag; }
-    // The screen is in front again: shows what a detail screen has left.
+    // The screen is in front again: shows what a detail screen that it opened has left.
     void comeToFront();
     // In entry mode. True when the screen is browsing again.
     bool update();
@@ -63,53 +80,38 @@ public:
     void leave();
 
     // ---- the entry
+    Entry& entry() { return m_entry; }
+    const Entry& entry() const { return m_entry; }
     int entryRow() const { return m_entryRow; }
     // The page has another number of rows.
     void keepEntryInView();
-    int entryCount() const { return static_cast<int>(m_entryColumns.size()); }
-    const BrowseColumn& entryColumn(int entry) const;
-    const QString& text(int entry) const { return m_texts[entry]; }
-    void setText(int entry, const QString& text);
-    // The same for a command of the entry: the field is focused then.
-    void setText(schema::FieldName field, const QString& text);
-    QString entryText(schema::FieldName field) const;  // empty for a field that is not typed
-    // Tidies and validates a field that is left; its error, or the lack of one, stands in `errors`.
-    void validate(int entry);
-    const ErrorCollector& errors() const { return m_errors; }
-    // The entry field to focus, from 0.
-    int fieldToFocus() const { return m_fieldToFocus; }
+    // True where errors are told when a field is left.
+    bool tellsErrorsAtOnce() const { return m_spec.refusals == BrowseSpec::Refusals::ErrorBox; }
 
 private:
-    friend class Entry;
-
-    QString folder() const;
     bool mayChange() const;
     bool activeRecordTest(bool needsRecord);
-    bool opensDetail() const { return m_spec.detail.tagField[0] != '\0'; }
-    void openDetail(const QString& mode);
-    QString refusalOf(int entry);
-    void beginEntry(const QString& mode, int row);
+    bool mayBegin(bool allowed, bool needsRecord);
+    bool opensDetail() const { return !m_spec.detail.tagField.isEmpty(); }
+    bool takeLock(qint32 tag) const;
+    bool beginEntry(const QString& mode);
     void leaveEntry();
     bool refuseFirst();
     bool refuseAll();
     bool write();
     bool goToEdited();
-    storage::Value valueOf(const BrowseColumn& column, const QString& text) const;
+    bool agreesToDelete();
     QStringList cellsOf(storage::Recordset& rows) const;
 
     BrowseSpec m_spec;
     Session m_session;
+    std::map<QString, OpenTable> m_besides;
     BrowseList m_list;
+    Entry m_entry;
     bool m_hasParent = false;
     bool m_isParentValid = true;
-    QString m_edited = noBookmark;  // the record of the entry in hand
     bool m_editedExisting = false;
     qint16 m_winTag = 0;  // in the window registry, of a list with detail screens
     bool m_openedDetail = false;
-
-    std::vector<size_t> m_entryColumns;
-    QStringList m_texts;
     int m_entryRow = 0;
-    int m_fieldToFocus = 0;
-    ErrorCollector m_errors;
 };

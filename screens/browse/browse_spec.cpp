@@ -1,64 +1,24 @@
 #include "screens/browse/browse_spec.h"
 
-#include "core/text.h"
 #include "screens/browse/browse_session.h"
 
-QString Entry::operator[](schema::FieldName field) const
+std::vector<EntryField> entryFieldsOf(const std::vector<BrowseColumn>& columns)
 {
-    return m_session.entryText(field);
-}
-
-bool Entry::isBlank(schema::FieldName field) const
-{
-    return dnIsBlank((*this)[field]);
-}
-bool Entry::isAdding() const
-{
-    return m_session.EditMode == "A";
-}
-const std::vector<KeyField>& Entry::parent() const
-{
-    return m_session.list().source().parent;
-}
-QString Entry::index() const
-{
-    return m_session.list().source().index;
-}
-const Session& Entry::session() const
-{
-    return m_session.session();
-}
-
-bool Entry::isTaken(const QString& index, KeyFields keys) const
-{
-    storage::Recordset& rows = m_session.list().rows();
-    std::vector<storage::Value> values;
-    for (const KeyField& key : keys)
-        values.push_back(key.key);
-    rows.Index(index);
-    const bool found = rows.seekKeys("=", values);
-    const QString bookmark = found ? rows.Bookmark() : QString();
-    rows.Index(m_session.list().source().index);
-    return found && (isAdding() || bookmark != m_session.m_edited);
-}
-
-bool Entry::isTakenInParent(const QString& index, KeyFields keys) const
-{
-    std::vector<KeyField> all = parent();
-    all.insert(all.end(), keys.begin(), keys.end());
-    return isTaken(index, all);
-}
-
-EntryCheck required(schema::FieldName field, const QString& text)
-{
-    return [field, text](const Entry& entry) { return entry.isBlank(field) ? text : QString(); };
-}
-
-EntryCheck unusedCode(schema::FieldName field, const QString& text)
-{
-    return [field, text](const Entry& entry) {
-        return entry.isTakenInParent(entry.index(), {{field, entry[field]}}) ? text : QString();
-    };
+    std::vector<EntryField> fields;
+    for (const BrowseColumn& column : columns)
+        if (!column.entry.isEmpty())
+            fields.push_back({.kind = column.kind,
+                              .name = column.entry,
+                              .field = column.field,
+                              .caption = column.heading,
+                              .length = column.length,
+                              .keys = column.keys,
+                              .alignment = column.alignment,
+                              .tidy = column.tidy,
+                              .check = column.check,
+                              .search = column.search,
+                              .left = column.left});
+    return fields;
 }
 
 std::function<QString(storage::Recordset&)> askToDelete(const QString& what,
@@ -71,16 +31,6 @@ std::function<QString(storage::Recordset&)> askToDelete(const QString& what,
         for (const schema::FieldName field : fields)
             values.append(trimmedTextOf(rows[field]));
         return "OK to Delete " + what + ' ' + values.join(separator) + end;
-    };
-}
-
-EntryCheck inOrder(std::vector<EntryCheck> checks)
-{
-    return [checks = std::move(checks)](const Entry& entry) {
-        for (const EntryCheck& check : checks)
-            if (QString refusal = check(entry); !refusal.isEmpty())
-                return refusal;
-        return QString();
     };
 }
 

@@ -2,6 +2,7 @@
 // browse_session.h; a screen is a function that gives one of these.
 #pragma once
 
+#include <QKeyCombination>
 #include <QStringList>
 #include <functional>
 #include <optional>
@@ -9,49 +10,30 @@
 #include "core/keyed_access.h"
 #include "core/messages.h"
 #include "core/session.h"
+#include "screens/browse/browse_list.h"
+#include "screens/entry/entry.h"
 
 class BrowseSession;
-
-// What stands in the entry fields while a record is added or edited.
-class Entry
-{
-public:
-    explicit Entry(BrowseSession& session) : m_session(session) {}
-
-    QString operator[](schema::FieldName field) const;  // as typed
-    bool isBlank(schema::FieldName field) const;
-    bool isAdding() const;
-    const std::vector<KeyField>& parent() const;
-    QString index() const;  // by which the list is browsed
-    const Session& session() const;
-
-    // True if another record than the one in hand has these keys along the index.
-    bool isTaken(const QString& index, KeyFields keys) const;
-    // The same, with the parent's keys before those given.
-    bool isTakenInParent(const QString& index, KeyFields keys) const;
-
-private:
-    BrowseSession& m_session;
-};
-
-// Gives the refusal's text, lines parted by '\n'; empty when the entry is fine.
-using EntryCheck = std::function<QString(const Entry&)>;
 
 struct BrowseColumn
 {
     schema::FieldName field;
     int length;  // characters, of the entry and in print
-    const char* heading;
-    int width;               // twips, on the screen and in print
-    const char* entry = "";  // the entry field's system name; blank: the column is only shown
-    bool upperCase = false;
-    const char* format = "";  // a number mask; blank: text
+    QString heading;
+    int width;           // twips, on the screen and in print
+    QString entry = {};  // the entry field's system name; blank: the column is only shown
+    FieldKeys keys = {};
+    QString format = {};  // a number mask; blank: text
     Qt::Alignment alignment = Qt::AlignLeft;
     // What is shown in place of the field's own text, such as a name looked up.
     std::function<QString(const BrowseSession&, storage::Recordset&)> shows = {};
-    // What a typed text becomes when the field is left.
+    // As in EntryField.
     std::function<QString(const QString&)> tidy = {};
     EntryCheck check = {};
+    std::function<QString(const Entry&)> search = {};
+    std::function<void(Entry&)> left = {};
+    EntryField::Kind kind = EntryField::Kind::Text;
+    bool isPrinted = true;
 };
 
 // Whose rows these are: the user chooses it above the list. None: the whole table.
@@ -72,44 +54,51 @@ BrowseParent companyParent();
 BrowseParent companyAndJobParent();
 BrowseParent branchParent();
 
-// Where a new record's tag comes from; no field: the table has none.
-struct TagSource
-{
-    const char* field = "";
-    const char* file = "ZORVEX.mdb";
-    const char* table = "VEXTAGS";
-    bool besideProgram = false;
-};
-
 // A further command of a screen. It runs while the user browses or, of an entry, while he enters.
 struct BrowseCommand
 {
-    const char* name;
-    const char* caption;
+    QString name;
+    QString caption;
     std::function<void(BrowseSession&)> run;
     bool inEntryMode = false;
-    Qt::Key key = Qt::Key_unknown;
+    QKeyCombination key = Qt::Key_unknown;  // while the list has the keyboard
     bool needsRecord = false;
+    // A caption that changes, asked anew after each command.
+    std::function<QString(const BrowseSession&)> captionFor = {};
 };
 
-// A screen of its own shows and changes one record: Add, Edit, Delete and Enter open it, and when
-// it closes the list shows what it left (core/window_registry.h). `mode` is "A", "E" or "D", `tag`
+// A screen of its own shows and changes one record: Add, Edit, Delete, Enter and further commands
+// open it by `BrowseSession::openDetail`, and when it closes the list shows what it left
+// (core/window_registry.h). `mode` is "A", "E", "D", "V" or any letter that the screen knows, `tag`
 // the record's, 0 for a new one; the screen's last act is dnUnloadWindow with `winTag`.
 struct BrowseDetail
 {
-    const char* tagField = "";  // no field: entries are typed on the row
-    const char* tagIndex = "";
-    std::function<void(BrowseSession&, const QString& mode, qint32 tag, qint16 winTag)> open = {};
+    QString tagField = {};  // no field: entries are typed on the row
+    QString tagIndex = {};
+    // False: nothing was opened (the user was told).
+    std::function<bool(BrowseSession&, const QString& mode, qint32 tag, qint16 winTag)> open = {};
+    // The record lock taken before an edit or a deletion, such as "VENDORS"; the detail screen
+    // gives it up. Blank: none.
+    QString lock = {};
+    bool hasView = false;  // View is a command of the list
 };
 
 struct BrowsePrint
 {
-    const char* window = "";  // no window: nothing is printed
-    const char* title = "";
+    QString window = {};  // no window: nothing is printed
+    QString title = {};
     // The title where it names the parent.
     std::function<QString(const BrowseSession&)> titleFor = {};
     // In place of the plain list.
     std::function<void(BrowseSession&)> run = {};
+};
+
+// A table that stays open beside the list, for what cells look up: `BrowseSession::beside`.
+struct BesideTable
+{
+    QString file;
+    QString table;
+    QString index = {};
 };
 
 struct BrowseSpec
@@ -121,43 +110,52 @@ struct BrowseSpec
         BoxToFirstField  // the same, and OK always goes back to the first field
     };
 
-    const char* name;
-    const char* caption;
-    const char* file = "ZORVEX.mdb";
-    bool besideProgram = false;  // the file is a locator, not of the job site
-    bool inUserFolder = false;
-    const char* table;
-    const char* index;
+    QString name;
+    QString caption;
+    QString file = "ZORVEX.mdb";  // where it lies tells core/session.h
+    QString table;
+    QString index;
     BrowseParent parent = {};
     // A narrower filter within the parent, where there is one.
     std::function<bool(storage::Recordset&)> accepts = {};
     std::vector<BrowseColumn> columns;
+    std::vector<BesideTable> besides = {};
     TagSource tag = {};
     Refusals refusals = Refusals::ErrorBox;
-    const char* editRight = "";  // tested at Add, Edit and Delete; blank: none
+    QString editRight = {};  // tested at Add, Edit and Delete; blank: none
+    bool mayAdd = true;
+    bool mayEdit = true;
+    bool mayDelete = true;
 
-    // Writes what is not typed, between AddNew or Edit and Update: the parent's keys, a new tag and
-    // the typed fields are written already.
-    std::function<void(const Entry&, storage::Recordset&)> complete = {};
+    // The steps around an entry and a deletion that are this screen's own.
+    std::shared_ptr<EntryRules> rules = {};
     // Needed unless a detail screen deletes.
     std::function<QString(storage::Recordset&)> deleteQuestion = {};
-    // Gives the text of "Cannot Delete" when others refer to the record, else empty text.
+    // Before that question: the text of "Cannot Delete" when others refer to the record, else
+    // empty.
     std::function<QString(const BrowseSession&, storage::Recordset&)> deleteTest = {};
+    // Asked at Add, Edit and Delete once there is a parent: the text of "Updates Not Allowed.",
+    // else empty.
+    std::function<QString(const BrowseSession&)> updatesTest = {};
     BrowseDetail detail = {};
     // Opens the search window; gives a bookmark or blank.
     std::function<QString(const BrowseSession&)> search = {};
     BrowsePrint print = {};
     std::vector<BrowseCommand> commands = {};
+    // A text above the rows, asked anew after each command and move; '\n' parts lines.
+    std::function<QString(const BrowseSession&)> status = {};
+    std::function<RowTone(const BrowseSession&, storage::Recordset&)> tone = {};
+    // The list is open and full; another parent was chosen (and read); the list closes, its files
+    // still open - once.
+    std::function<void(BrowseSession&)> opened = {};
+    std::function<void(BrowseSession&)> parentChosen = {};
+    std::function<void(BrowseSession&)> closing = {};
     // Shown once on the way out when an existing record was edited.
     std::optional<Message> reminderAfterEdit = {};
 };
 
-// The checks that most fields need: the text when the field is blank, or when another record of the
-// list's parent has the code along the list's index.
-EntryCheck required(schema::FieldName field, const QString& text);
-EntryCheck unusedCode(schema::FieldName field, const QString& text);
-// The first refusal of several checks, in order.
-EntryCheck inOrder(std::vector<EntryCheck> checks);
+// The entry fields of a screen's columns, in their order.
+std::vector<EntryField> entryFieldsOf(const std::vector<BrowseColumn>& columns);
 
 // "OK to Delete " and what it is, the record's fields parted by the separator, and the end.
 std::function<QString(storage::Recordset&)> askToDelete(const QString& what,

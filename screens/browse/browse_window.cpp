@@ -1,42 +1,22 @@
 #include "screens/browse/browse_window.h"
 
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QLineEdit>
+#include <QLabel>
 #include <QPushButton>
 #include <QTableView>
+#include <array>
 
 #include "screens/browse/browse_grid.h"
+#include "screens/browse/browse_pane.h"
 #include "screens/browse/parent_bar.h"
 #include "screens/command_bar.h"
 #include "screens/command_runner.h"
 #include "screens/desktop.h"
-#include "screens/field_keys.h"
 #include "screens/help.h"
 #include "screens/key_line.h"
 #include "screens/load_error.h"
-#include "screens/selectors/error_box.h"
-
-namespace {
-
-Session sessionFor(const ScreenContext& context)
-{
-    return context.session;
-}
-
-bool isNumber(storage::FieldType type)
-{
-    return type != storage::FieldType::Text && type != storage::FieldType::Memo &&
-           type != storage::FieldType::Date;
-}
-
-bool isWhole(storage::FieldType type)
-{
-    return type == storage::FieldType::Byte || type == storage::FieldType::Integer ||
-           type == storage::FieldType::Long;
-}
-
-}  // namespace
 
 BrowseWindow::BrowseWindow(BrowseSpec spec, const ScreenContext& context)
     : BrowseWindow(std::move(spec), context, {})
@@ -45,132 +25,175 @@ BrowseWindow::BrowseWindow(BrowseSpec spec, const ScreenContext& context)
 
 BrowseWindow::BrowseWindow(BrowseSpec spec, const ScreenContext& context,
                            const std::vector<KeyField>& parent)
-    : m_session(std::move(spec), sessionFor(context)),
+    : BrowseWindow(BrowseLevels{{std::move(spec)}, {}}, context, parent)
+{
+}
+
+BrowseWindow::BrowseWindow(BrowseLevels levels, const ScreenContext& context,
+                           const std::vector<KeyField>& parent)
+    : m_mayEnter(std::move(levels.mayEnter)),
       m_context(context),
       m_givenParent(parent),
-      m_grid(new BrowseGrid(m_session.list(), "hsbMAIN")),
       m_commands(new CommandBar),
-      m_keys(new KeyLine),
-      m_errorBox(new tqErrorBox)
+      m_keys(new KeyLine)
 {
-    setObjectName(m_session.spec().name);
-    setWindowTitle(m_session.spec().caption);
+    for (BrowseSpec& level : levels.levels)
+        m_levels.push_back(
+            {std::make_unique<BrowseSession>(std::move(level), m_context.session), nullptr});
+    setObjectName(spec().name);
+    setWindowTitle(spec().caption);
     setProperty(helpPageProperty, "browse");
     build();
     m_loaded = loadScreen(this, [this] { load(); });
 }
 
-BrowseWindow::~BrowseWindow() = default;
+BrowseWindow::~BrowseWindow()
+{
+    // The panes show the sessions, which go first otherwise.
+    for (Level& level : m_levels)
+        delete level.pane;
+}
+
+BrowseGrid& BrowseWindow::grid()
+{
+    return pane().grid();
+}
+
+BrowseGrid& BrowseWindow::grid(size_t level)
+{
+    return m_levels[level].pane->grid();
+}
 
 void BrowseWindow::build()
 {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 8);
     layout->setSpacing(8);
-    m_parent = makeParentBar(m_session);
+    m_parent = makeParentBar(session(0));
     if (m_parent)
         layout->addWidget(m_parent);
-    layout->addWidget(m_grid, 1);
-    // Over the rows: it does not move the one in hand when it comes and goes.
-    m_errorBox->setParent(this);
+    if (spec().status) {
+        m_status = new QLabel;
+        m_status->setObjectName("lblStatus");
+        m_status->setTextFormat(Qt::PlainText);
+        layout->addWidget(m_status);
+    }
+    layout->addWidget(buildLevels(), 1);
     auto* foot = new QHBoxLayout;
-    foot->addWidget(m_grid->moveButtons(), 0, Qt::AlignTop);
-    foot->addSpacing(12);
+    if (m_levels.size() == 1) {
+        foot->addWidget(grid().moveButtons(), 0, Qt::AlignTop);
+        foot->addSpacing(12);
+    }
     foot->addWidget(m_commands, 1);
     layout->addLayout(foot);
     layout->addWidget(m_keys);
-
-    std::vector<GridColumn> columns;
-    for (const BrowseColumn& column : m_session.spec().columns)
-        columns.push_back({column.heading, column.width, column.alignment});
-    m_grid->setColumns(columns);
-    m_grid->keepWidths(UserLayout(m_context.session.UserSettingsPath), objectName() + "/columns");
-    setFocusProxy(m_grid);
-    connect(m_grid, &BrowseGrid::acted, this, [this] { run([this] { m_session.act(); }); });
-    connect(m_grid, &BrowseGrid::layoutChanged, this, &BrowseWindow::placeFields);
     buildCommands();
-    buildFields();
+    orderTabs();
+}
+
+QWidget* BrowseWindow::buildLevels()
+{
+    auto* row = new QWidget;
+    auto* panes = new QHBoxLayout(row);
+    panes->setContentsMargins(0, 0, 0, 0);
+    const UserLayout layout(m_context.session.UserSettingsPath);
+    for (size_t i = 0; i < m_levels.size(); ++i) {
+        const QString key = i == 0 ? objectName() : objectName() + '-' + QString::number(i + 1);
+        auto* made = new BrowsePane(*m_levels[i].session, layout, key);
+        m_levels[i].pane = made;
+        panes->addWidget(made);
+        BrowseGrid* rows = &made->grid();
+        connect(rows, &BrowseGrid::acted, this, [this] { run([this] { session().act(); }); });
+        connect(rows, &BrowseGrid::moved, this, [this, i] {
+            runCommand([&] { fillBelow(i); });
+            showStatus();
+        });
+        connect(made, &BrowsePane::fieldLeft, this, [this] { showStatus(); });
+        if (m_levels.size() > 1)
+            rows->view()->installEventFilter(this);
+    }
+    setFocusProxy(&grid(0));
+    return row;
 }
 
 void BrowseWindow::buildCommands()
 {
-    const BrowseSpec& spec = m_session.spec();
-    const auto add = [this](const char* name, const char* caption, auto command) {
+    const auto add = [this](const QString& name, const QString& caption, auto command) {
         return m_commands->add(name, caption, [this, command] { run(command); });
     };
-    m_browsing = {add("cmdAdd", "&Add", [this] { m_session.add(); }),
-                  add("cmdEdit", "&Edit", [this] { m_session.edit(); }),
-                  add("cmdDelete", "&Delete", [this] { m_session.remove(); })};
-    if (spec.search)
-        m_browsing.push_back(add("cmdSearch", "&Search", [this] { m_session.search(); }));
-    for (const BrowseCommand& command : spec.commands)
+    const auto browsing = [&](const QString& name, const QString& caption, auto command) {
+        m_browsing.push_back({add(name, caption, command), nullptr});
+    };
+    const BrowseSpec& first = spec();
+    if (first.mayAdd)
+        browsing("cmdAdd", "&Add", [this] { session().add(); });
+    if (first.mayEdit)
+        browsing("cmdEdit", "&Edit", [this] { session().edit(); });
+    if (first.detail.hasView)
+        browsing("cmdView", "&View", [this] { session().openDetail("V"); });
+    if (first.mayDelete)
+        browsing("cmdDelete", "&Delete", [this] { session().remove(); });
+    if (first.search)
+        browsing("cmdSearch", "&Search", [this] { session().search(); });
+    for (const BrowseCommand& command : first.commands)
         (command.inEntryMode ? m_entering : m_browsing)
-            .push_back(add(command.name, command.caption, [this, &command] {
-                takeTexts();
-                m_session.run(command);
-            }));
-    if (spec.print.window[0] != '\0' || spec.print.run)
-        m_browsing.push_back(add("cmdPrint", "&Print", [this] { m_session.print(); }));
-    m_update = add("cmdUpdate", "&Update", [this] {
-        takeTexts();
-        m_session.update();
-    });
-    m_entering.push_back(m_update);
+            .push_back({add(command.name, session(0).captionOf(command),
+                            [this, &command] {
+                                if (command.inEntryMode)
+                                    pane().fields().take();
+                                session().run(command);
+                            }),
+                        &command});
+    if (!first.print.window.isEmpty() || first.print.run)
+        browsing("cmdPrint", "&Print", [this] { session().print(); });
+    m_entering.push_back({add("cmdUpdate", "&Update",
+                              [this] {
+                                  pane().fields().take();
+                                  session().update();
+                              }),
+                          nullptr});
     m_exit = m_commands->add("cmdExit", "E&xit", [this] {
-        if (m_session.isBrowsing())
+        if (session().isBrowsing())
             close();
         else
-            run([this] { m_session.cancel(); });
+            run([this] { session().cancel(); });
     });
 }
 
-void BrowseWindow::buildFields()
+void BrowseWindow::orderTabs()
 {
-    for (int i = 0; i < m_session.entryCount(); ++i) {
-        const BrowseColumn& column = m_session.entryColumn(i);
-        auto* field = new QLineEdit(m_grid->view()->viewport());
-        field->setObjectName(column.entry);
-        field->setAccessibleName(column.heading);
-        field->setMaxLength(column.length);
-        field->setAlignment(column.alignment | Qt::AlignVCenter);
-        field->installEventFilter(this);
-        field->hide();
-        m_fields.push_back(field);
-    }
-    for (size_t i = 1; i < m_fields.size(); ++i)
-        setTabOrder(m_fields[i - 1], m_fields[i]);
-    if (!m_fields.empty()) {
-        QWidget* before = m_fields.back();
-        for (QPushButton* button : m_entering) {
-            setTabOrder(before, button);
-            before = button;
+    for (const Level& level : m_levels) {
+        QWidget* before = nullptr;
+        QList<QWidget*> chain = level.pane->fields().tabChain();
+        for (const CommandButton& command : m_entering)
+            chain.append(command.button);
+        chain.append(m_exit);
+        for (QWidget* next : std::as_const(chain)) {
+            if (before)
+                setTabOrder(before, next);
+            before = next;
         }
-        setTabOrder(before, m_exit);
     }
 }
 
 void BrowseWindow::load()
 {
-    m_session.open();
-    for (int i = 0; i < m_session.entryCount(); ++i) {
-        const BrowseColumn& column = m_session.entryColumn(i);
-        const storage::FieldType type = m_session.list().typeOf(column.field);
-        FieldKeys keys{.upperCase = column.upperCase};
-        if (isNumber(type))
-            keys.numbers = isWhole(type) ? NumberKeys::SignedDigits : NumberKeys::SignedDecimal;
-        setFieldKeys(*m_fields[static_cast<size_t>(i)], keys);
+    for (const Level& level : m_levels) {
+        level.session->open();
+        level.pane->load();
     }
     if (m_parent) {
         m_parent->load();
-        connect(m_parent, &ParentBar::entered, this, [this] { m_grid->setMovesEnabled(false); });
+        connect(m_parent, &ParentBar::entered, this, [this] { grid().setMovesEnabled(false); });
         connect(m_parent, &ParentBar::left, this, [this] {
-            m_grid->setMovesEnabled(m_session.isBrowsing());
+            grid().setMovesEnabled(session().isBrowsing());
             run([this] { takeParent(); });
         });
-        m_session.setParent(m_parent->keys());
+        session().setParent(m_parent->keys());
     } else if (!m_givenParent.empty()) {
-        m_session.setParent(m_givenParent);
+        session().setParent(m_givenParent);
     }
+    fillBelow(0);
     showState();
     takeFocus();
 }
@@ -178,62 +201,93 @@ void BrowseWindow::load()
 // A choice that did not change leaves the list alone, and one that is not valid the last good one.
 void BrowseWindow::takeParent()
 {
+    BrowseSession& list = session(0);
     const std::vector<KeyField> keys = m_parent->keys();
-    m_session.setParentValid(!keys.empty());
-    if (!m_session.isBrowsing() || keys.empty())
+    list.setParentValid(!keys.empty());
+    if (!list.isBrowsing() || keys.empty())
         return;
-    const std::vector<KeyField>& now = m_session.list().source().parent;
+    const std::vector<KeyField>& now = list.list().source().parent;
     const auto same = [](const KeyField& a, const KeyField& b) { return a.key == b.key; };
-    if (m_session.hasParent() && std::equal(keys.begin(), keys.end(), now.begin(), now.end(), same))
+    if (list.hasParent() && std::equal(keys.begin(), keys.end(), now.begin(), now.end(), same))
         return;
     m_parent->save();
-    m_session.setParent(keys);
+    list.setParent(keys);
+}
+
+// Each level at the right shows what belongs to the record at its left; nothing belongs to tag 0.
+void BrowseWindow::fillBelow(size_t level)
+{
+    for (size_t i = level + 1; i < m_levels.size(); ++i) {
+        BrowseSession& below = *m_levels[i].session;
+        const schema::FieldName key = below.spec().parent.keys.front();
+        const storage::Value tag = m_levels[i - 1].session->currentTag();
+        if (below.hasParent() && below.parentKey(key) == tag)
+            return;
+        below.setParent({{key, tag}});
+        m_levels[i].pane->showState("List is Empty");
+    }
+}
+
+// The keyboard has come to the rows of another level.
+void BrowseWindow::enterLevel(size_t level)
+{
+    if (level == m_inHand || !session().isBrowsing())
+        return;
+    std::optional<Message> refusal;
+    if (level > m_inHand && m_mayEnter)
+        runCommand([&] {
+            for (size_t i = m_inHand; i < level && !refusal; ++i)
+                refusal = m_mayEnter(*m_levels[i].session, *m_levels[i + 1].session);
+        });
+    if (!refusal)
+        m_inHand = level;
+    showState();
+    if (!refusal)
+        return;
+    Messages::current().show(*refusal);
+    grid().takeFocus();
 }
 
 void BrowseWindow::run(const std::function<void()>& command)
 {
     runCommand(command);
+    runCommand([this] { fillBelow(m_inHand); });
     showState();
 }
 
 void BrowseWindow::showState()
 {
-    const bool browsing = m_session.isBrowsing();
-    m_grid->setEndTexts("End of List",
-                        m_parent && !m_session.hasParent() ? m_parent->hint() : "List is Empty");
-    m_grid->setMovesEnabled(browsing);
-    m_grid->view()->setFocusPolicy(browsing ? Qt::StrongFocus : Qt::NoFocus);
-    m_grid->refresh();
-    for (QPushButton* button : m_browsing)
-        button->setVisible(browsing);
-    for (QPushButton* button : m_entering)
-        button->setVisible(!browsing);
-    m_exit->setText(browsing ? "E&xit" : "&Cancel");
+    const bool browsing = session().isBrowsing();
+    const bool lacksParent = m_parent && !session(0).hasParent();
+    showCommands();
     if (m_parent)
         m_parent->setLocked(!browsing);
     showKeys();
-    showEntry();
+    for (size_t i = 0; i < m_levels.size(); ++i)
+        m_levels[i].pane->showState(i == 0 && lacksParent ? m_parent->hint() : "List is Empty",
+                                    browsing || i == m_inHand);
+    showStatus();
+    if (browsing && (m_wasEntering || session(0).hasParent()))
+        takeFocus();
     m_wasEntering = !browsing;
 }
 
-void BrowseWindow::showEntry()
+void BrowseWindow::showCommands()
 {
-    const bool entering = !m_session.isBrowsing();
-    for (int i = 0; i < static_cast<int>(m_fields.size()); ++i) {
-        QLineEdit* field = m_fields[static_cast<size_t>(i)];
-        if (entering && field->text() != m_session.text(i))
-            field->setText(m_session.text(i));
-    }
-    if (!entering && m_wasEntering)
-        takeFocus();
-    placeFields();
-    for (QLineEdit* field : m_fields)
-        field->setVisible(entering);
-    showErrors();
-    if (entering && !m_fields.empty())
-        m_fields[static_cast<size_t>(m_session.fieldToFocus())]->setFocus(Qt::OtherFocusReason);
-    else if (!entering && m_session.hasParent())
-        takeFocus();
+    const bool browsing = session().isBrowsing();
+    for (const std::vector<CommandButton>* group : {&m_browsing, &m_entering})
+        for (const CommandButton& shown : *group) {
+            shown.button->setVisible((group == &m_browsing) == browsing);
+            if (shown.command && shown.command->captionFor)
+                shown.button->setText(session(0).captionOf(*shown.command));
+        }
+    m_exit->setText(browsing ? "E&xit" : "&Cancel");
+}
+
+void BrowseWindow::showStatus()
+{
+    if (m_status)
+        runCommand([this] { m_status->setText(spec().status(session(0))); });
 }
 
 // The list has the keyboard while the user browses; until there is one, the choice of its parent.
@@ -244,99 +298,58 @@ void BrowseWindow::takeFocus()
         return;  // a command has opened another screen
     if (m_parent && focusWidget() && m_parent->isAncestorOf(focusWidget()))
         return;  // the user is choosing
-    if (m_parent && !m_session.hasParent())
+    if (m_parent && !session(0).hasParent())
         m_parent->setFocus(Qt::OtherFocusReason);
     else
-        m_grid->takeFocus();
-}
-
-void BrowseWindow::placeFields()
-{
-    if (m_session.isBrowsing())
-        return;
-    m_session.keepEntryInView();
-    int entry = 0;
-    const std::vector<BrowseColumn>& columns = m_session.spec().columns;
-    for (int i = 0; i < static_cast<int>(columns.size()); ++i)
-        if (columns[static_cast<size_t>(i)].entry[0] != '\0')
-            m_fields[static_cast<size_t>(entry++)]->setGeometry(
-                m_grid->cellRect(m_session.entryRow(), i));
-    placeErrorBox();
-}
-
-void BrowseWindow::showErrors()
-{
-    const ErrorCollector& errors = m_session.errors();
-    for (int i = 0; i < static_cast<int>(m_fields.size()); ++i)
-        markError(*m_fields[static_cast<size_t>(i)], errors.hasError(i + 1));
-    m_errorBox->showErrors(errors);
-    placeErrorBox();
-}
-
-// At the foot of the rows, or at their head when the entry is in the lower half.
-void BrowseWindow::placeErrorBox()
-{
-    if (m_errorBox->isHidden())
-        return;
-    const QWidget* rows = m_grid->view()->viewport();
-    const QRect room(rows->mapTo(this, QPoint()), rows->size());
-    const int height = m_errorBox->heightForWidth(room.width()) > 0
-                           ? m_errorBox->heightForWidth(room.width())
-                           : m_errorBox->sizeHint().height();
-    const bool below = m_grid->cellRect(m_session.entryRow(), 0).bottom() < room.height() - height;
-    m_errorBox->setGeometry(room.x(), below ? room.bottom() + 1 - height : room.y(), room.width(),
-                            height);
-    m_errorBox->raise();
-}
-
-void BrowseWindow::takeTexts()
-{
-    if (m_session.isBrowsing())
-        return;
-    for (int i = 0; i < static_cast<int>(m_fields.size()); ++i)
-        m_session.setText(i, m_fields[static_cast<size_t>(i)]->text());
-}
-
-void BrowseWindow::fieldLeft(int entry)
-{
-    if (m_session.isBrowsing())
-        return;
-    takeTexts();
-    runCommand([&] { m_session.validate(entry); });
-    if (m_fields[static_cast<size_t>(entry)]->text() != m_session.text(entry))
-        m_fields[static_cast<size_t>(entry)]->setText(m_session.text(entry));
-    showErrors();
+        grid().takeFocus();
 }
 
 void BrowseWindow::showKeys()
 {
-    if (!m_session.isBrowsing())
+    if (!session().isBrowsing())
         return m_keys->setKeys({{"Enter", "Next field"}, {"Alt+U", "Update"}, {"Esc", "Cancel"}});
-    QList<std::pair<QString, QString>> keys = {
-        {"Enter", "Edit"}, {"A", "Add"}, {"E", "Edit"}, {"Del", "Delete"}};
-    if (m_session.spec().search)
-        keys.emplaceBack("S", "Search");
-    if (m_commands->findChild<QPushButton*>("cmdPrint"))
-        keys.emplaceBack("P", "Print");
+    static constexpr std::array<std::array<const char*, 3>, 6> shown = {
+        {{"cmdAdd", "A", "Add"},
+         {"cmdEdit", "E", "Edit"},
+         {"cmdView", "V", "View"},
+         {"cmdDelete", "Del", "Delete"},
+         {"cmdSearch", "S", "Search"},
+         {"cmdPrint", "P", "Print"}}};
+    QList<std::pair<QString, QString>> keys;
+    if (spec().mayEdit)
+        keys.emplaceBack("Enter", "Edit");
+    for (const auto& [command, key, text] : shown)
+        if (m_commands->findChild<QPushButton*>(command))
+            keys.emplaceBack(key, text);
+    if (m_levels.size() > 1)
+        keys.emplaceBack("Tab", "Next level");
     keys.emplaceBack("Ctrl+C", "Copy list");
     keys.emplaceBack("X", "Exit");
     m_keys->setKeys(keys);
 }
 
-bool BrowseWindow::commandForKey(int key)
+bool BrowseWindow::commandForKey(QKeyCombination key)
 {
     static constexpr std::pair<Qt::Key, const char*> letters[] = {
         {Qt::Key_A, "cmdAdd"},         {Qt::Key_E, "cmdEdit"},   {Qt::Key_D, "cmdDelete"},
         {Qt::Key_Delete, "cmdDelete"}, {Qt::Key_S, "cmdSearch"}, {Qt::Key_X, "cmdExit"},
-        {Qt::Key_P, "cmdPrint"}};
-    const char* name = nullptr;
-    for (const BrowseCommand& command : m_session.spec().commands)
+        {Qt::Key_P, "cmdPrint"},       {Qt::Key_V, "cmdView"}};
+    const Qt::KeyboardModifiers modifiers = key.keyboardModifiers();
+    const bool isPlain = (modifiers & ~Qt::ShiftModifier) == 0;
+    QString name;
+    const std::vector<BrowseCommand>& commands = spec().commands;
+    for (const BrowseCommand& command : commands)
         if (command.key == key && !command.inEntryMode)
             name = command.name;
+    // A letter does the same with Shift unless a command wants that.
+    for (const BrowseCommand& command : commands)
+        if (name.isEmpty() && isPlain && command.key == QKeyCombination(key.key()) &&
+            !command.inEntryMode)
+            name = command.name;
     for (const auto& [letter, command] : letters)
-        if (letter == key && !name)
+        if (name.isEmpty() && isPlain && letter == key.key())
             name = command;
-    auto* button = name ? m_commands->findChild<QPushButton*>(name) : nullptr;
+    auto* button = name.isEmpty() ? nullptr : m_commands->findChild<QPushButton*>(name);
     if (!button)
         return false;
     button->click();
@@ -349,31 +362,29 @@ void BrowseWindow::keyPressEvent(QKeyEvent* event)
         m_exit->click();
         return;
     }
-    const bool plain = !(event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier));
-    if (plain && m_session.isBrowsing() && m_grid->view()->hasFocus() &&
-        commandForKey(event->key()))
+    const QKeyCombination key(event->modifiers() & ~Qt::KeypadModifier, Qt::Key(event->key()));
+    if (session().isBrowsing() && grid().view()->hasFocus() && commandForKey(key))
         return;
     QWidget::keyPressEvent(event);
 }
 
 bool BrowseWindow::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        const bool stays = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
-        for (int i = 0; i < static_cast<int>(m_fields.size()) && !stays; ++i)
-            if (watched == m_fields[static_cast<size_t>(i)])
-                fieldLeft(i);
-    }
-    return false;
+    if (event->type() == QEvent::FocusIn)
+        for (size_t i = 0; i < m_levels.size(); ++i)
+            if (watched == m_levels[i].pane->grid().view())
+                // After the focus has settled: a refusal takes it back.
+                QMetaObject::invokeMethod(
+                    this, [this, i] { enterLevel(i); }, Qt::QueuedConnection);
+    return QWidget::eventFilter(watched, event);
 }
 
 bool BrowseWindow::event(QEvent* event)
 {
     const bool inFront =
         event->type() == screenInFront || (event->type() == QEvent::WindowActivate && isWindow());
-    if (inFront && m_loaded && m_session.isBrowsing()) {
-        run([this] { m_session.comeToFront(); });
+    if (inFront && m_loaded && session().isBrowsing()) {
+        run([this] { session().comeToFront(); });
         takeFocus();
     }
     return QWidget::event(event);
@@ -381,14 +392,15 @@ bool BrowseWindow::event(QEvent* event)
 
 void BrowseWindow::closeEvent(QCloseEvent* event)
 {
-    if (!m_session.isBrowsing()) {
+    if (!session().isBrowsing()) {
         // The way out of an entry is its Cancel.
         event->ignore();
-        return run([this] { m_session.cancel(); });
+        return run([this] { session().cancel(); });
     }
-    runCommand([this] {
-        m_session.leave();
-        m_session.close();
-    });
+    for (const Level& level : m_levels)
+        runCommand([&] {
+            level.session->leave();
+            level.session->close();
+        });
     event->accept();
 }

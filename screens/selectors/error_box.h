@@ -4,7 +4,7 @@
 
 #include <QFrame>
 
-#include "screens/browse/error_collector.h"
+#include "screens/entry/error_collector.h"
 
 class QLabel;
 

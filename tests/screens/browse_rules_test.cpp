@@ -41,7 +41,7 @@ protected:
     static void type(BrowseSession& screen, const QStringList& texts)
     {
         for (int i = 0; i < texts.size(); ++i)
-            screen.setText(i, texts[i]);
+            screen.entry().setText(i, texts[i]);
     }
 
     TestInstallation site;
@@ -56,14 +56,14 @@ TEST_F(BrowseRules, OlderScreensTellTheFirstFaultAndCancelLeavesTheEntry)
     screen.open();
     screen.add();
     expectBox(screen, "Blank Material Code Detected.");
-    EXPECT_EQ(screen.fieldToFocus(), 0);
+    EXPECT_EQ(screen.entry().focus(), 0);
     type(screen, {"a", ""});
     expectBox(screen,
               "Duplicate Material Code Detected.\nThe code you have entered\n"
               "already exists on another line.");
     type(screen, {"b", ""});
     expectBox(screen, "Material Code Description is Blank.");
-    EXPECT_EQ(screen.fieldToFocus(), 1) << "OK goes back to the field";
+    EXPECT_EQ(screen.entry().focus(), 1) << "OK goes back to the field";
     ASSERT_FALSE(screen.isBrowsing());
     expectBox(screen, "Material Code Description is Blank.", Answer::Cancel);
     EXPECT_TRUE(screen.isBrowsing());
@@ -174,8 +174,8 @@ TEST_F(BrowseRules, JobSitesAreTidiedRememberedAndCopied)
     sites.open();
     sites.edit();
     type(sites, {"NORTH YARD", "c:\\north\\"});
-    sites.validate(1);
-    EXPECT_EQ(sites.text(1), "C:\\NORTH");
+    sites.entry().leave(1);
+    EXPECT_EQ(sites.entry().text(1), "C:\\NORTH");
     ASSERT_TRUE(sites.update());
     user.expect("Reminder",
                 "Remember, if you changed the Location of Database Files\n"
@@ -239,7 +239,7 @@ TEST_F(BrowseRules, NumbersAreNumbersAndSinglesKeepTheirDigits)
     type(terms, {"A", "Net", "12", "9", "2.35"});
     ASSERT_TRUE(terms.update());
     terms.edit();
-    EXPECT_EQ(terms.text(4), "2.35");
+    EXPECT_EQ(terms.entry().text(4), "2.35");
 }
 
 // A list whose records have a screen of their own.

@@ -31,8 +31,8 @@ protected:
     void chooseCompany(int company) { screen.setParent({{"CONO", company}}); }
     void type(const QString& code, const QString& description)
     {
-        screen.setText(0, code);
-        screen.setText(1, description);
+        screen.entry().setText(0, code);
+        screen.entry().setText(1, description);
     }
     QStringList codes() const
     {
@@ -80,7 +80,7 @@ TEST_F(BrowseSessionTest, AddsEditsAndFindsTheRecordUnderTheHighlight)
 
     screen.act();
     EXPECT_EQ(screen.EditMode, "E");
-    EXPECT_EQ(screen.text(1), "Cash");
+    EXPECT_EQ(screen.entry().text(1), "Cash");
     type("3000", "Cash in hand");
     EXPECT_TRUE(screen.update());
     EXPECT_EQ(codes(), QStringList{"3000"}) << "it has moved, and stays on its row";
@@ -96,7 +96,7 @@ TEST_F(BrowseSessionTest, CountsTheErrorsAndWritesNothing)
     screen.add();
     user.expect("Cannot Update", "Errors Detected: 2\nG/L Code is Empty.\nDescription is Empty.");
     EXPECT_FALSE(screen.update());
-    EXPECT_EQ(screen.fieldToFocus(), 0);
+    EXPECT_EQ(screen.entry().focus(), 0);
     type("1000", "again");
     user.expect("Cannot Update", QString("Errors Detected: 1\n") + duplicate);
     EXPECT_FALSE(screen.update());
@@ -112,11 +112,11 @@ TEST_F(BrowseSessionTest, LetsACodeStayWhatItIsButNotBecomeAnothers)
     chooseCompany(1);
     screen.edit();
     type("2000", "x");
-    screen.validate(0);
-    EXPECT_EQ(screen.errors().FirstFieldInError(), 1);
+    screen.entry().leave(0);
+    EXPECT_EQ(screen.entry().errors().FirstFieldInError(), 1);
     type("1000", "x");
-    screen.validate(0);
-    EXPECT_EQ(screen.errors().ErrorCount(), 0);
+    screen.entry().leave(0);
+    EXPECT_EQ(screen.entry().errors().ErrorCount(), 0);
     EXPECT_TRUE(screen.update());
 }
 
@@ -131,7 +131,7 @@ TEST_F(BrowseSessionTest, RefusesWhatTheColumnCannotHoldAndKeepsTheEntry)
         "attempted to add.");
     EXPECT_FALSE(screen.update());
     EXPECT_EQ(screen.EditMode, "A");
-    EXPECT_EQ(screen.text(1), "eleven characters for ten");
+    EXPECT_EQ(screen.entry().text(1), "eleven characters for ten");
 }
 
 TEST_F(BrowseSessionTest, CancelsWithoutATrace)

@@ -125,7 +125,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(All, BrowseScreens, testing::ValuesIn(screens),
-                         [](const auto& screen) { return std::string(screen.param.spec().name); });
+                         [](const auto& screen) { return screen.param.spec().name.toStdString(); });
 
 TEST_P(BrowseScreens, AddsEditsCancelsAndDeletesByTheKeyboard)
 {
@@ -156,13 +156,13 @@ TEST_P(BrowseScreens, WritesWhatWasTyped)
     add(GetParam().first);
     ASSERT_TRUE(window->session().isBrowsing());
     const OpenTable table = site.open(spec.file, spec.table);
-    for (int i = 0; i < window->session().entryCount(); ++i) {
-        const BrowseColumn& typed = window->session().entryColumn(i);
-        EXPECT_EQ(textOf(table.rows[typed.field]), GetParam().first[i]) << typed.entry;
-    }
+    const Entry& entry = window->session().entry();
+    for (int i = 0; i < entry.count(); ++i)
+        EXPECT_EQ(textOf(table.rows[entry.field(i).field]), GetParam().first[i])
+            << entry.field(i).name;
     for (const KeyField& key : parent)
         EXPECT_EQ(table.rows[key.field].value(), key.key);
-    if (spec.tag.field[0] != '\0') {
+    if (!spec.tag.field.isEmpty()) {
         EXPECT_NE(table.rows.fieldNamed(spec.tag.field).value().toInt(), 0);
     }
 }

@@ -1,0 +1,64 @@
+// What is particular to one data screen: a screen of its own on which one record is added, edited,
+// deleted or looked at. How such a screen behaves is told in data_session.h; a screen is a function
+// that gives one of these.
+#pragma once
+
+#include <optional>
+
+#include "core/messages.h"
+#include "screens/entry/entry.h"
+
+class DataSession;
+
+// A further command of a data screen; the texts of the fields were taken up before.
+struct DataCommand
+{
+    QString name;
+    QString caption;
+    std::function<void(DataSession&)> run;
+    bool whileViewing = false;  // in modes "V" and "D", too
+};
+
+// Fields that stand together: a page of its own where a screen has several with a caption,
+// otherwise one form.
+struct DataSection
+{
+    QString caption = {};
+    std::vector<EntryField> fields;
+    int columns = 1;  // of fields side by side
+};
+
+struct DataSpec
+{
+    QString name;
+    // Of what it shows, such as "Vendors", to which the mode is added: "Vendors - Add".
+    QString caption;
+    bool namesMode = true;
+    QString file = "ZORVEX.mdb";
+    QString table;
+    QString index;  // along which the record is found and codes are unique
+    std::vector<schema::FieldName> parent = {};  // the keys that are given, the first of the index
+    std::vector<DataSection> sections;
+    TagSource tag = {};
+    QString lock = {};  // the record lock that the list took; given up when the screen closes
+
+    std::shared_ptr<EntryRules> rules = {};
+    // Before the question of a deletion: the text of "Cannot Delete", else empty.
+    std::function<QString(const Session&, storage::Recordset&)> deleteTest = {};
+    std::function<Message(storage::Recordset&)> deleteQuestion = {};  // OK or Yes deletes
+    // The tag with which a list follows; none: the record's own by `tag.field`.
+    std::function<qint32(storage::Recordset&)> hotTag = {};
+    std::vector<DataCommand> commands = {};
+    // A field that takes the focus while the record is only looked at tells that changes are not
+    // allowed.
+    bool refusesFocusInView = false;
+    // Asked when the screen is left with changes; none: it closes without a word.
+    std::optional<Message> abandonQuestion = {};
+    std::optional<Message> savedMessage = {};  // told after Update
+    bool staysOpen = false;                    // Update does not close the screen
+    QString updateCaption = "&Update";
+    bool hasFieldSearch = false;  // a box that finds fields by their captions
+};
+
+// The question that most screens ask.
+Message confirmDelete(const QString& title, const QString& text);

@@ -1,0 +1,264 @@
+#include "screens/data/data_window.h"
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <memory>
+
+#include "screens/command_bar.h"
+#include "screens/command_runner.h"
+#include "screens/desktop.h"
+#include "screens/help.h"
+#include "screens/key_line.h"
+#include "screens/load_error.h"
+#include "screens/selectors/error_box.h"
+
+using Kind = EntryField::Kind;
+
+DataWindow::DataWindow(DataSpec spec, const Session& session, const DataRecord& record)
+    : m_session(std::move(spec), session, record),
+      m_fields(new EntryControls(m_session.entry(), true, this)),
+      m_errorBox(new tqErrorBox),
+      m_commands(new CommandBar),
+      m_keys(new KeyLine)
+{
+    setObjectName(m_session.spec().name);
+    setProperty(helpPageProperty, "data");
+    build();
+    loadScreen(this, [this] {
+        m_loaded = m_session.open();
+        if (m_loaded)
+            m_fields->prepare();
+    });
+    setWindowTitle(m_session.caption());
+    connect(m_fields, &EntryControls::changed, this, [this] { showState(); });
+    connect(m_fields, &EntryControls::entered, this, &DataWindow::fieldEntered);
+    if (m_loaded)
+        showState();
+}
+
+DataWindow::~DataWindow() = default;
+
+void DataWindow::build()
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(12, 12, 12, 8);
+    layout->setSpacing(8);
+    const DataSpec& spec = m_session.spec();
+    if (spec.hasFieldSearch) {
+        m_finder = new QLineEdit;
+        m_finder->setObjectName("txtFindField");
+        m_finder->setPlaceholderText("Find a setting by its text (Ctrl+F); Enter for the next");
+        m_finder->setClearButtonEnabled(true);
+        connect(m_finder, &QLineEdit::textEdited, this,
+                [this](const QString& text) { findField(text, false); });
+        connect(m_finder, &QLineEdit::returnPressed, this,
+                [this] { findField(m_finder->text(), true); });
+        layout->addWidget(m_finder);
+    }
+    const bool hasPages = spec.sections.size() > 1 && !spec.sections.front().caption.isEmpty();
+    if (hasPages) {
+        m_pages = new QTabWidget;
+        layout->addWidget(m_pages, 1);
+    }
+    int first = 0;
+    for (const DataSection& section : spec.sections) {
+        QWidget* page = buildSection(section, first);
+        first += static_cast<int>(section.fields.size());
+        if (hasPages)
+            m_pages->addTab(page, section.caption);
+        else
+            layout->addWidget(page, 1);
+    }
+    layout->addWidget(m_errorBox);
+    layout->addWidget(m_commands);
+    layout->addWidget(m_keys);
+    buildCommands();
+    QWidget* before = m_finder;
+    for (QWidget* next : m_fields->tabChain()) {
+        if (before)
+            setTabOrder(before, next);
+        before = next;
+    }
+}
+
+// Captions at the left of their fields; boxes and headings across. Wide forms scroll on small
+// displays.
+QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
+{
+    auto* area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    auto* form = new QWidget;
+    auto* grid = new QGridLayout(form);
+    grid->setHorizontalSpacing(10);
+    const int count = static_cast<int>(section.fields.size());
+    const int columns = std::max(section.columns, 1);
+    const int perColumn = (count + columns - 1) / columns;
+    for (int i = 0; i < count; ++i) {
+        const EntryField& field = section.fields[static_cast<size_t>(i)];
+        const int at = firstField + i;
+        const int row = i % perColumn;
+        const int column = i / perColumn * 4;
+        QWidget* control = m_fields->control(at, form);
+        m_pageOf.push_back(area);
+        if (field.kind == Kind::Heading) {
+            QFont font = control->font();
+            font.setBold(true);
+            control->setFont(font);
+        }
+        if (field.kind == Kind::Box || field.kind == Kind::Heading) {
+            grid->addWidget(control, row, column, 1, 3);
+            continue;
+        }
+        auto* caption = new QLabel(field.caption);
+        caption->setBuddy(control);
+        grid->addWidget(caption, row, column, Qt::AlignRight | Qt::AlignVCenter);
+        if (auto* edit = qobject_cast<QLineEdit*>(control); edit && field.length > 0) {
+            // As wide as its text, within reason.
+            const int shown = std::clamp(field.length, 4, 50) + 3;
+            edit->setMaximumWidth(edit->fontMetrics().averageCharWidth() * shown + 40);
+        }
+        const bool fills =
+            field.kind == Kind::Memo || field.kind == Kind::Text || field.kind == Kind::Shown;
+        grid->addWidget(control, row, column + 1, fills ? Qt::Alignment() : Qt::AlignLeft);
+        if (QWidget* button = m_fields->searchButton(at, form))
+            grid->addWidget(button, row, column + 2, Qt::AlignLeft);
+    }
+    for (int c = 0; c < columns; ++c)
+        grid->setColumnStretch(c * 4 + 1, 1);
+    grid->setRowStretch(perColumn, 1);
+    area->setWidget(form);
+    return area;
+}
+
+void DataWindow::buildCommands()
+{
+    for (const DataCommand& command : m_session.spec().commands)
+        m_commands->add(command.name, command.caption,
+                        [this, &command] { run([&] { m_session.run(command); }); });
+    m_update = m_commands->add("cmdUpdate", m_session.updateCaption(), [this] {
+        bool isFinished = false;
+        run([&] { isFinished = m_session.update(); });
+        if (isFinished)
+            close();
+        else
+            takeFocus();
+    });
+    m_cancel = m_commands->add("cmdCancel", m_session.cancelCaption(), [this] { close(); });
+}
+
+void DataWindow::run(const std::function<void()>& command)
+{
+    m_fields->take();
+    runCommand(command);
+    showState();
+}
+
+void DataWindow::showState()
+{
+    m_fields->show(m_session.isForTyping());
+    m_errorBox->showErrors(m_session.entry().errors());
+    setWindowTitle(m_session.caption());
+    m_update->setText(m_session.updateCaption());
+    if (m_session.isForTyping())
+        m_keys->setKeys({{"Enter", "Next field"},
+                         {"?", "Search in a field with a button"},
+                         {"Alt+U", "Update"},
+                         {"Esc", "Leave"}});
+    else
+        m_keys->setKeys({{"Esc", "Leave"}});
+}
+
+// The field that the entry names, on its page.
+void DataWindow::takeFocus()
+{
+    const auto at = static_cast<size_t>(m_session.entry().focus());
+    if (m_pages && at < m_pageOf.size())
+        m_pages->setCurrentWidget(m_pageOf[at]);
+    if (m_session.isForTyping())
+        m_fields->takeFocus();
+    else
+        (m_session.mode() == "D" ? m_update : m_cancel)->setFocus(Qt::OtherFocusReason);
+}
+
+void DataWindow::fieldEntered(int at)
+{
+    if (m_isTelling || m_session.mode() != "V" || !m_session.spec().refusesFocusInView)
+        return;
+    Q_UNUSED(at)
+    m_isTelling = true;
+    showCritical("Changes Not Allowed", "Changes Not Allowed When Viewing.");
+    m_cancel->setFocus(Qt::OtherFocusReason);
+    m_isTelling = false;
+}
+
+// Goes through the captions from the last one found on.
+void DataWindow::findField(const QString& text, bool next)
+{
+    const int count = m_session.entry().count();
+    if (text.trimmed().isEmpty())
+        return;
+    const int from = next ? m_found + 1 : 0;
+    for (int i = 0; i < count; ++i) {
+        const int at = (from + i) % count;
+        QString caption = m_session.entry().field(at).caption;
+        if (!caption.remove('&').contains(text.trimmed(), Qt::CaseInsensitive))
+            continue;
+        m_found = at;
+        if (m_pages)
+            m_pages->setCurrentWidget(m_pageOf[static_cast<size_t>(at)]);
+        QWidget* control = m_fields->control(at);
+        if (auto* area = qobject_cast<QScrollArea*>(m_pageOf[static_cast<size_t>(at)]))
+            area->ensureWidgetVisible(control);
+        if (next)
+            control->setFocus(Qt::OtherFocusReason);
+        return;
+    }
+}
+
+void DataWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        return m_cancel->click();
+    if (m_finder && event->matches(QKeySequence::Find))
+        return m_finder->setFocus(Qt::ShortcutFocusReason);
+    QWidget::keyPressEvent(event);
+}
+
+void DataWindow::closeEvent(QCloseEvent* event)
+{
+    if (m_loaded) {
+        m_fields->take();
+        bool mayLeave = true;
+        runCommand([&] { mayLeave = m_session.mayLeave(); });
+        if (!mayLeave)
+            return event->ignore();
+    }
+    runCommand([this] { m_session.close(); });
+    event->accept();
+}
+
+bool DataWindow::event(QEvent* event)
+{
+    if (event->type() == QEvent::Show && m_loaded)
+        QMetaObject::invokeMethod(
+            this, [this] { takeFocus(); }, Qt::QueuedConnection);
+    return QWidget::event(event);
+}
+
+bool openDataScreen(DataSpec spec, const Session& session, const DataRecord& record)
+{
+    auto window = std::make_unique<DataWindow>(std::move(spec), session, record);
+    if (!window->session().isLoaded())
+        return false;
+    openScreen(window.release());
+    return true;
+}
