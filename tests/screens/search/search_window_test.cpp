@@ -330,4 +330,18 @@ TEST_F(SearchWindowTest, WritesTheCostCodeGroupsName)
     EXPECT_EQ(zorSearchCCC(site.siteFolder(), 7, "J1", "  "), " ");
 }
 
+TEST_F(SearchWindowTest, GivesAnEntryFieldTheCostCodeThatWasPicked)
+{
+    site.addRow("MAIN.mdb", "CCBLIST",
+                {{"CONO", 7}, {"JOBNO", "J1"}, {"COSTCODEB", "  12"}, {"DESCB", "Area"}});
+    const auto search = [this](auto answer) {
+        whenModalOpens(answer);
+        return zorCCBSearch(site.siteFolder(), "ab", 7, "J1", "Area");
+    };
+    EXPECT_EQ(search([](QDialog& dialog) { press(dialog, "cmdSelect"); }), "  12");
+    EXPECT_EQ(search([](QDialog& dialog) { dialog.reject(); }), "ab") << "what was typed stays";
+    user.expect("Invalid Cost Code", "Cost Code Group 'A' is not Defined for Job Number: J1");
+    EXPECT_EQ(zorCCASearch(site.siteFolder(), "ab", 7, "J1", "", CostCodeOrder::ByCode), " ");
+}
+
 }  // namespace
