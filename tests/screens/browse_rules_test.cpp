@@ -257,6 +257,7 @@ TEST_F(BrowseRules, DetailScreensLeaveTheirResultWithTheList)
                    .open = [&](BrowseSession&, const QString& mode, qint32 tag, qint16 winTag) {
                        opened = mode + QString::number(tag);
                        number = winTag;
+                       return mode != "L";
                    }};
     BrowseSession list(spec, session());
     list.open();
@@ -277,8 +278,118 @@ TEST_F(BrowseRules, DetailScreensLeaveTheirResultWithTheList)
     dnUnloadWindow(site.userFolder(), number, 99);
     list.comeToFront();
     EXPECT_EQ(inHand(), "11") << "a tag that is gone shows the first record";
+    EXPECT_TRUE(list.openDetail("V"));
+    EXPECT_EQ(opened, "V11");
+    EXPECT_FALSE(list.openDetail("L")) << "the screen was not opened";
     list.close();
     EXPECT_EQ(site.rowCount("ZORUSER.mdb", "WINLIST"), 0);
+}
+
+// Notes the steps, and refuses one on demand.
+class NotedRules : public EntryRules
+{
+public:
+    bool begin(Entry& entry) override
+    {
+        entry.give("ILCTAG", 77);
+        if (entry.isAdding())
+            entry.setText("ILCNAME", "begun");
+        return take("begin" + entry.mode());
+    }
+    bool beforeWrite(Entry&) override { return take("beforeWrite"); }
+    void complete(const Entry& entry, storage::Recordset& rows) override
+    {
+        take("complete" + textOf(rows["ILCCODE"]) + entry.given("ILCTAG").toString());
+    }
+    void written(Entry&, storage::Recordset& rows) override
+    {
+        take("written" + textOf(rows["ILCCODE"]));
+    }
+    bool beforeDelete(const Session&, storage::Recordset&) override { return take("beforeDelete"); }
+
+    QStringList steps;
+    QString refused;
+
+private:
+    bool take(const QString& step)
+    {
+        steps.append(step);
+        return step != refused;
+    }
+};
+
+TEST_F(BrowseRules, AScreensOwnStepsStandAroundItsEntriesAndMayRefuse)
+{
+    site.emptyTable("ZORVEX.mdb", "ILCLIST");
+    auto rules = std::make_shared<NotedRules>();
+    BrowseSpec spec = frmVEXILC01();
+    spec.rules = rules;
+    spec.tag = {};
+    int closings = 0;
+    spec.closing = [&](BrowseSession& list) {
+        ++closings;
+        EXPECT_FALSE(list.list().isEmpty()) << "its table is still open";
+    };
+    BrowseSession list(spec, session());
+    list.open();
+    rules->refused = "beginA";
+    list.add();
+    EXPECT_TRUE(list.isBrowsing());
+    rules->refused = "beforeWrite";
+    list.add();
+    EXPECT_EQ(list.entry()["ILCNAME"], "begun");
+    list.entry().setText("ILCCODE", "7");
+    EXPECT_FALSE(list.update());
+    EXPECT_FALSE(list.isBrowsing()) << "what was typed stays";
+    EXPECT_EQ(site.rowCount("ZORVEX.mdb", "ILCLIST"), 0);
+    rules->refused = "beforeDelete";
+    EXPECT_TRUE(list.update());
+    EXPECT_EQ(site.first("ZORVEX.mdb", "ILCLIST", "ILCTAG").toInt(), 77) << "given, not typed";
+    user.expect("Confirm Delete", "OK to Delete Branch Code: 7 - begun");
+    list.remove();
+    EXPECT_EQ(site.rowCount("ZORVEX.mdb", "ILCLIST"), 1);
+    EXPECT_EQ(rules->steps, (QStringList{"beginA", "beginA", "beforeWrite", "beforeWrite",
+                                         "complete777", "written7", "beforeDelete"}));
+    list.close();
+    list.close();
+    EXPECT_EQ(closings, 1);
+}
+
+TEST_F(BrowseRules, AListMayBeBrowsedByOtherKeysAndShowsWhatLiesBesideIt)
+{
+    site.emptyTable("ZORVEX.mdb", "BINLIST");
+    site.emptyTable("ZORVEX.mdb", "ILCLIST");
+    site.addRow("ZORVEX.mdb", "ILCLIST", {{"ILCTAG", 1}, {"ILCCODE", "A"}, {"ILCNAME", "Yard"}});
+    for (const auto& [branch, bin, tag] : {std::tuple{1, "B2", 5}, {1, "B1", 10}, {2, "B3", 20}})
+        site.addRow("ZORVEX.mdb", "BINLIST", {{"ILCTAG", branch}, {"BINNO", bin}, {"BINTAG", tag}});
+    BrowseSpec spec = frmVEXINVBIN01();
+    spec.besides = {{"ZORVEX.mdb", "ILCLIST", "ILCTAG"}};
+    spec.columns[1].shows = [](const BrowseSession& screen, storage::Recordset& rows) {
+        storage::Recordset& branches = screen.beside("ILCLIST");
+        return branches.Seek("=", rows["ILCTAG"].value()) ? textOf(branches["ILCNAME"])
+                                                          : QString("?");
+    };
+    spec.tone = [](const BrowseSession&, storage::Recordset& rows) {
+        return intOf(rows["ILCTAG"]) == 2 ? RowTone::Bad : RowTone::Plain;
+    };
+    BrowseSession list(spec, session());
+    list.open();
+    const auto shown = [&] {
+        QStringList all;
+        for (const BrowseLine& line : list.list().lines())
+            if (line.kind == BrowseLine::Kind::Record)
+                all.append(line.cells[0] + line.cells[1] + (line.tone == RowTone::Bad ? "!" : ""));
+        return all;
+    };
+    list.setParent({{"ILCTAG", 1}});
+    EXPECT_EQ(shown(), (QStringList{"B1Yard", "B2Yard"}));
+    EXPECT_EQ(list.currentTag(), 10);
+    list.browseBy("BINTAG", {{"BINTAG", 20}});
+    EXPECT_EQ(shown(), QStringList{"B3?!"});
+    EXPECT_EQ(list.parentKey("BINTAG").toInt(), 20);
+    list.browseBy("BINNO", {});
+    EXPECT_EQ(shown().size(), 3) << "no keys: the whole table";
+    EXPECT_FALSE(list.list().show("no such record"));
 }
 
 }  // namespace

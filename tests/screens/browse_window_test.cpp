@@ -63,7 +63,7 @@ protected:
                         {{"PATHNAME", "SOUTH YARD"}, {"PathText", "/south"}, {"DBTAG", 9}});
         else
             site.emptyTable(spec.file, spec.table);
-        if (spec.editRight[0] != '\0')
+        if (!spec.editRight.isEmpty())
             site.addRow("ZORNET.mdb", "USERACCESSITEMS",
                         {{"UAITAG", 1}, {"UAICODE", spec.editRight}, {"Desc", "Edit"}});
     }
@@ -159,7 +159,7 @@ TEST_P(BrowseScreens, WritesWhatWasTyped)
     const Entry& entry = window->session().entry();
     for (int i = 0; i < entry.count(); ++i)
         EXPECT_EQ(textOf(table.rows[entry.field(i).field]), GetParam().first[i])
-            << entry.field(i).name;
+            << entry.field(i).name.toStdString();
     for (const KeyField& key : parent)
         EXPECT_EQ(table.rows[key.field].value(), key.key);
     if (!spec.tag.field.isEmpty()) {
