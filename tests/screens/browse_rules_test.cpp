@@ -389,7 +389,11 @@ TEST_F(BrowseRules, AListMayBeBrowsedByOtherKeysAndShowsWhatLiesBesideIt)
     EXPECT_EQ(list.parentKey("BINTAG").toInt(), 20);
     list.browseBy("BINNO", {});
     EXPECT_EQ(shown().size(), 3) << "no keys: the whole table";
-    EXPECT_FALSE(list.list().show("no such record"));
+    const QString last = list.list().BrowseLast;
+    EXPECT_TRUE(list.list().show(last));
+    list.setParent({{"ILCTAG", 1}});
+    list.browseBy("BINTAG", {{"BINTAG", 10}});
+    EXPECT_FALSE(list.list().show(last)) << "another branch's";
 }
 
 }  // namespace
