@@ -141,6 +141,8 @@ void frmVEXMAIN::openNamed(const MenuEntry& entry)
     if (opensOneScreenOnly(entry) && m_area->bringToFront(entry.screen))
         return;
     QWidget* screen = factory->create({m_session, entry.mode, m_area->viewport()->size()});
+    if (!screen)
+        return;
     if (isUtility(entry))
         screen->setWindowTitle(m_session.JobSiteName + " - " + screen->windowTitle());
     openScreen(screen);

@@ -20,6 +20,12 @@ QString QtSystemDialogs::chooseFileToWrite(const QString& caption, const QString
                                         QDir::home().filePath(suggestion), pattern);
 }
 
+QString QtSystemDialogs::chooseFileToRead(const QString& caption, const QString& folder,
+                                          const QString& pattern)
+{
+    return QFileDialog::getOpenFileName(QApplication::activeWindow(), caption, folder, pattern);
+}
+
 QSizeF QtSystemDialogs::defaultPaper()
 {
     const QPrinterInfo printer = QPrinterInfo::defaultPrinter();

@@ -9,5 +9,7 @@ public:
     bool choosePrinter(QPrinter& printer, int pageCount) override;
     QString chooseFileToWrite(const QString& caption, const QString& suggestion,
                               const QString& pattern) override;
+    QString chooseFileToRead(const QString& caption, const QString& folder,
+                             const QString& pattern) override;
     QSizeF defaultPaper() override;
 };

@@ -22,6 +22,10 @@ public:
     virtual QString chooseFileToWrite(const QString& caption, const QString& suggestion,
                                       const QString& pattern) = 0;
 
+    // A present file, looked for from `folder` (a native path) on; blank after a cancel.
+    virtual QString chooseFileToRead(const QString& caption, const QString& folder,
+                                     const QString& pattern) = 0;
+
     // The paper of the default printer in points, upright; empty without a printer.
     virtual QSizeF defaultPaper() = 0;
 

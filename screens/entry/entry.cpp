@@ -80,7 +80,7 @@ void Entry::begin(const QString& mode, storage::Recordset& rows, const EntryPlac
 QString Entry::shownText(int at) const
 {
     const EntryField& shown = field(at);
-    if (shown.field.isNone() || shown.kind == Kind::Shown)
+    if (shown.field.isNone() || shown.kind == Kind::Shown || shown.kind == Kind::Picture)
         return shown.initial;
     const storage::Field stored = (*m_rows)[shown.field];
     if (shown.kind == Kind::Box)
@@ -351,4 +351,20 @@ EntryCheck inOrder(std::vector<EntryCheck> checks)
                 return refusal;
         return QString();
     };
+}
+
+QString maskedPhone(const QString& text)
+{
+    const QString phone = dnPhoneFormat(text);
+    return phone.isEmpty() ? "(   )    -    " : phone;
+}
+
+EntryField phoneField(const QString& name, schema::FieldName field, const QString& caption)
+{
+    return {.name = name,
+            .field = field,
+            .caption = caption,
+            .length = 14,
+            .initial = maskedPhone({}),
+            .tidy = maskedPhone};
 }

@@ -4,11 +4,14 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QToolButton>
 
+#include "core/storage/file_paths.h"
+#include "core/storage/storage_error.h"
 #include "screens/command_runner.h"
 #include "screens/date_field.h"
 #include "screens/selectors/error_box.h"
@@ -29,6 +32,51 @@ bool isText(FieldType type)
            type == FieldType::Boolean;
 }
 
+// What a field shows that is not typed; a failure of the store stands there as its text.
+QString shownBy(const EntryField& field, const Entry& entry)
+{
+    try {
+        return field.shows(entry);
+    } catch (const storage::StorageError& error) {
+        return error.description();
+    }
+}
+
+constexpr QSize pictureSize(240, 90);
+
+QWidget* newPicture(QWidget* parent)
+{
+    auto* picture = new QLabel(parent);
+    picture->setFixedSize(pictureSize);
+    picture->setFrameShape(QFrame::StyledPanel);
+    picture->setAlignment(Qt::AlignCenter);
+    return picture;
+}
+
+// The image scaled into its frame; a file that is not there shows nothing.
+void showPicture(QLabel& picture, const QString& path)
+{
+    if (picture.property("path") == path)
+        return;
+    picture.setProperty("path", path);
+    QImageReader reader(path.isEmpty() ? QString() : storage::nativePath(path));
+    reader.setDecideFormatFromContent(true);
+    const QImage image = path.isEmpty() ? QImage() : reader.read();
+    const QSize room =
+        (QSizeF(picture.contentsRect().size()) * picture.devicePixelRatioF()).toSize();
+    QPixmap shown =
+        image.isNull()
+            ? QPixmap()
+            : QPixmap::fromImage(image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    shown.setDevicePixelRatio(picture.devicePixelRatioF());
+    if (image.isNull())
+        picture.setText(reader.error() == QImageReader::FileNotFoundError || path.isEmpty()
+                            ? QString()
+                            : "Not an Image File");
+    else
+        picture.setPixmap(shown);
+}
+
 QWidget* newControl(const EntryField& field, QWidget* parent)
 {
     switch (field.kind) {
@@ -45,6 +93,8 @@ QWidget* newControl(const EntryField& field, QWidget* parent)
             return new QCheckBox(field.caption, parent);
         case Kind::Choice:
             return new QComboBox(parent);
+        case Kind::Picture:
+            return newPicture(parent);
         case Kind::Shown:
         case Kind::Heading:
             break;
@@ -71,6 +121,19 @@ QString textOf(const QWidget* control)
     return {};
 }
 
+// What is stored but is no choice becomes one, so that it is not lost unseen.
+void choose(QComboBox& choice, const QString& text)
+{
+    int at = choice.findData(text);
+    if (at < 0)
+        at = choice.findData(text.trimmed());
+    if (at < 0 && !text.trimmed().isEmpty()) {
+        at = choice.count();
+        choice.addItem(text, text);
+    }
+    choice.setCurrentIndex(at);
+}
+
 void setText(QWidget* control, const QString& text)
 {
     if (textOf(control) == text)
@@ -82,7 +145,7 @@ void setText(QWidget* control, const QString& text)
     else if (auto* box = qobject_cast<QCheckBox*>(control))
         box->setChecked(text == "-1");
     else if (auto* choice = qobject_cast<QComboBox*>(control))
-        choice->setCurrentIndex(choice->findData(text));
+        choose(*choice, text);
 }
 
 }  // namespace
@@ -124,7 +187,7 @@ QAbstractButton* EntryControls::searchButton(int at, QWidget* parent)
 {
     const EntryField& field = m_entry.field(at);
     QAbstractButton*& button = m_buttons[static_cast<size_t>(at)];
-    if (button || !field.search)
+    if (button || (!field.search && !field.choose))
         return button;
     auto* made = new QToolButton(parent);
     made->setObjectName(field.searchName);
@@ -180,11 +243,16 @@ void EntryControls::showOne(int at, bool isForTyping)
 {
     QWidget* control = m_controls[static_cast<size_t>(at)];
     const EntryField& field = m_entry.field(at);
-    const bool mayType = isForTyping && !field.isReadOnly;
+    const bool isLive = !field.isLive || field.isLive(m_entry);
+    const bool mayType = isForTyping && !field.isReadOnly && isLive;
+    if (field.isLive)
+        control->setEnabled(isLive);
     if (field.kind == Kind::Choice)
         fillChoices(at);
-    if (auto* label = qobject_cast<QLabel*>(control); label && field.shows)
-        label->setText(field.shows(m_entry));
+    if (auto* label = qobject_cast<QLabel*>(control); label && field.kind == Kind::Picture)
+        showPicture(*label, shownBy(field, m_entry));
+    else if (label && field.shows)
+        label->setText(shownBy(field, m_entry));
     else
         setText(control, m_entry.text(at));
     if (auto* edit = qobject_cast<QLineEdit*>(control))
@@ -213,7 +281,8 @@ void EntryControls::take()
 {
     for (int i = 0; i < m_entry.count(); ++i) {
         const Kind kind = m_entry.field(i).kind;
-        if (m_controls[static_cast<size_t>(i)] && kind != Kind::Shown && kind != Kind::Heading)
+        if (m_controls[static_cast<size_t>(i)] && kind != Kind::Shown && kind != Kind::Heading &&
+            kind != Kind::Picture)
             m_entry.setText(i, textOf(m_controls[static_cast<size_t>(i)]));
     }
 }
@@ -260,14 +329,21 @@ void EntryControls::leave(int at, bool changedNow)
 void EntryControls::search(int at)
 {
     take();
-    QString found;
-    runCommand([&] { found = m_entry.field(at).search(m_entry); });
+    const EntryField& field = m_entry.field(at);
+    bool isChosen = false;
+    runCommand([&] {
+        if (field.choose) {
+            isChosen = field.choose(m_entry);
+            return;
+        }
+        const QString found = field.search(m_entry);
+        isChosen = !found.trimmed().isEmpty();
+        if (isChosen)
+            m_entry.setText(at, found);
+    });
     QWidget* control = m_controls[static_cast<size_t>(at)];
-    if (!found.trimmed().isEmpty()) {
-        m_entry.setText(at, found);
-        m_isShowing = true;
-        setText(control, m_entry.text(at));
-        m_isShowing = false;
+    if (isChosen) {
+        show(m_isForTyping);
         leave(at, true);
     }
     m_textAtEntry = m_entry.text(at);
@@ -282,7 +358,8 @@ bool EntryControls::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::KeyPress) {
         const QString typed = static_cast<QKeyEvent*>(event)->text();
         const bool asks = typed == "?" || typed == "/";
-        if (asks && m_isForTyping && m_entry.field(at).search && !m_entry.field(at).isReadOnly) {
+        const EntryField& field = m_entry.field(at);
+        if (asks && m_isForTyping && (field.search || field.choose) && !field.isReadOnly) {
             search(at);
             return true;
         }

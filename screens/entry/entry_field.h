@@ -26,12 +26,13 @@ struct EntryField
 {
     enum class Kind {
         Text,
-        Memo,    // several lines
-        Date,    // with the date keys and a calendar
-        Box,     // to be ticked: "-1", else "0"
-        Choice,  // one of `choices`
-        Shown,   // not typed: what `shows` gives, asked anew after each change
-        Heading  // the caption across; no value
+        Memo,     // several lines
+        Date,     // with the date keys and a calendar
+        Box,      // to be ticked: "-1", else "0"
+        Choice,   // one of `choices`
+        Shown,    // not typed: what `shows` gives, asked anew after each change
+        Picture,  // the image file of which `shows` gives the full name; none where it is no image
+        Heading   // the caption across; no value
     };
     Kind kind = Kind::Text;
     QString name = {};             // the control's system name
@@ -51,16 +52,24 @@ struct EntryField
     EntryCheck check = {};
     // Opened by "?", "/" or the button beside the field; gives the text chosen, blank for none.
     std::function<QString(const Entry&)> search = {};
+    // In place of `search`, where a choice may also empty the field or change others: sets the
+    // texts itself. False when nothing was chosen.
+    std::function<bool(Entry&)> choose = {};
     QString searchName = {};  // the button's system name
     // The user has left the field after changing it, and its check has passed: what the change
     // does to other fields.
     std::function<void(Entry&)> left = {};
     bool isReadOnly = false;
+    // Asked anew after each change: false leaves the control dead. None: it lives.
+    std::function<bool(const Entry&)> isLive = {};
 };
 
 // The checks that most fields need: the text when the field is blank, or when another record of the
 // list's parent has the code along the list's index.
 EntryCheck required(schema::FieldName field, const QString& text);
 EntryCheck unusedCode(schema::FieldName field, const QString& text);
+// A phone number as it is shown and kept: "(713) 555-0142", of nothing "(   )    -    ".
+QString maskedPhone(const QString& text);
+EntryField phoneField(const QString& name, schema::FieldName field, const QString& caption);
 // The first refusal of several checks, in order.
 EntryCheck inOrder(std::vector<EntryCheck> checks);

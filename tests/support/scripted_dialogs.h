@@ -14,16 +14,18 @@ public:
     ScriptedDialogs() : m_before(install(this)) {}
     ~ScriptedDialogs() override
     {
-        EXPECT_FALSE(printTo || writeTo) << "a dialog never came";
+        EXPECT_FALSE(printTo || writeTo || read) << "a dialog never came";
         install(m_before);
     }
     ScriptedDialogs(const ScriptedDialogs&) = delete;
     ScriptedDialogs& operator=(const ScriptedDialogs&) = delete;
 
-    // The answers of the next dialogs: where to print, what file to write. Blank is a cancel, none
+    // The answers of the next dialogs: where to print, what file to write, what file to read.
+    // Blank is a cancel, none
     // means that no dialog is expected.
     std::optional<QString> printTo;
     std::optional<QString> writeTo;
+    std::optional<QString> read;
     QSizeF paper;
 
     bool choosePrinter(QPrinter& printer, int pageCount) override
@@ -42,9 +44,17 @@ public:
         lastSuggestion = suggestion;
         return std::exchange(writeTo, std::nullopt).value_or("");
     }
+    QString chooseFileToRead(const QString& /*caption*/, const QString& folder,
+                             const QString& /*pattern*/) override
+    {
+        EXPECT_TRUE(read) << "unexpected file dialog";
+        lastFolder = folder;
+        return std::exchange(read, std::nullopt).value_or("");
+    }
     QSizeF defaultPaper() override { return paper; }
 
     QString lastSuggestion;
+    QString lastFolder;
 
 private:
     SystemDialogs* m_before;
