@@ -133,8 +133,7 @@ private:
     int countTo(const QString& bookmark);
     void showEmpty();
     BrowseLine lineHere();
-    template <class Move>
-    void guarded(Move move);
+    void guarded(const std::function<void()>& move);
 
     ReadCells m_readCells;
     std::function<RowTone(storage::Recordset&)> m_readTone;

@@ -64,8 +64,8 @@ void BrowsePane::showState(const QString& emptyText, bool isInHand)
     m_grid->setMovesEnabled(!entering && isInHand);
     m_grid->view()->setFocusPolicy(entering || !isInHand ? Qt::NoFocus : Qt::StrongFocus);
     m_grid->refresh();
-    if (entering)
-        m_fields->show(true);
+    // Before they are hidden: a field that loses the keyboard then is not checked any more.
+    m_fields->show(entering);
     placeFields();
     for (int i = 0; i < m_session.entry().count(); ++i)
         m_fields->control(i)->setVisible(entering);

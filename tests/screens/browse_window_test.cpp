@@ -183,6 +183,17 @@ TEST_P(BrowseScreens, KeepsAnEntryWhoseRecordWasDeletedMeanwhile)
     EXPECT_EQ(column(0), QStringList{GetParam().first[0]});
 }
 
+TEST_P(BrowseScreens, ForgetsTheErrorsOfAnEntryThatIsCancelled)
+{
+    open();
+    key(Qt::Key_A);
+    key(Qt::Key_Tab);
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(window->session().isBrowsing());
+    EXPECT_TRUE(control<QFrame>(*window, "tqErrorBox1").isHidden());
+    EXPECT_EQ(window->session().entry().errors().ErrorCount(), 0);
+}
+
 TEST_P(BrowseScreens, GivesEachCommandAKeyOfItsOwn)
 {
     open();
