@@ -25,7 +25,8 @@ struct DataSection
 {
     QString caption = {};
     std::vector<EntryField> fields;
-    int columns = 1;  // of fields side by side
+    // Of fields side by side, filled one after the other; a picture and a memo take four rows.
+    int columns = 1;
 };
 
 struct DataSpec
@@ -36,7 +37,7 @@ struct DataSpec
     bool namesMode = true;
     QString file = "ZORVEX.mdb";
     QString table;
-    QString index;  // along which the record is found and codes are unique
+    QString index = {};                          // of codes; along it a deletion finds what follows
     std::vector<schema::FieldName> parent = {};  // the keys that are given, the first of the index
     std::vector<DataSection> sections;
     TagSource tag = {};
