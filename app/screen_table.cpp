@@ -1,7 +1,10 @@
 #include "app/screen_table.h"
 
+#include "cost/companies.h"
 #include "cost/gl_codes.h"
 #include "cost/invoice_codes.h"
+#include "cost/job_defaults.h"
+#include "cost/jobs.h"
 #include "inventory/branches.h"
 #include "purchasing/code_lists.h"
 #include "purchasing/document_texts.h"
@@ -44,6 +47,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXILC01", browse<frmVEXILC01>},
     {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
+    {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},
     {"frmVEXRT01", browse<frmVEXRT01>},
     {"frmVEXReportSelector", reportSelector},
@@ -51,6 +55,8 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXSHIPVIA01", browse<frmVEXSHIPVIA01>},
     {"frmVEXTRMC01", browse<frmVEXTRMC01>},
     {"frmVEXWHODIDIT01", browse<frmVEXWHODIDIT01>},
+    {"frmZORCO01", browse<frmZORCO01>},
+    {"frmZORJOB01", newJobNumbers},
     {"frmZORJS01", browse<frmZORJS01>},
 };
 
