@@ -8,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <memory>
 
@@ -21,6 +22,37 @@
 
 using Kind = EntryField::Kind;
 
+namespace {
+
+// Asks for the room that its whole form takes; the desktop gives what it has.
+class FormArea : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+    QSize sizeHint() const override
+    {
+        const int bar = verticalScrollBar()->sizeHint().width();
+        return widget() ? widget()->sizeHint() + QSize(bar, 4) : QScrollArea::sizeHint();
+    }
+};
+
+// How many rows of a form a field takes.
+int rowsOf(const EntryField& field)
+{
+    return field.kind == Kind::Picture || field.kind == Kind::Memo ? 4 : 1;
+}
+
+// As wide as its text, within reason.
+void fitWidth(QLineEdit& edit, int length)
+{
+    const int shown = std::clamp(length, 4, 50);
+    const int character = edit.fontMetrics().averageCharWidth() + 1;
+    edit.setMinimumWidth(character * std::min(shown, 30) + 24);
+    edit.setMaximumWidth(character * shown + 40);
+}
+
+}  // namespace
+
 DataWindow::DataWindow(DataSpec spec, const Session& session, const DataRecord& record)
     : m_session(std::move(spec), session, record),
       m_fields(new EntryControls(m_session.entry(), true, this)),
@@ -33,8 +65,12 @@ DataWindow::DataWindow(DataSpec spec, const Session& session, const DataRecord& 
     build();
     loadScreen(this, [this] {
         m_loaded = m_session.open();
-        if (m_loaded)
-            m_fields->prepare();
+        if (!m_loaded)
+            return;
+        m_fields->prepare();
+        for (int i = 0; i < m_session.entry().count(); ++i)
+            if (auto* edit = qobject_cast<QLineEdit*>(m_fields->control(i)))
+                fitWidth(*edit, m_session.entry().lengthOf(i));
     });
     setWindowTitle(m_session.caption());
     connect(m_fields, &EntryControls::changed, this, [this] { showState(); });
@@ -92,21 +128,26 @@ void DataWindow::build()
 // displays.
 QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
 {
-    auto* area = new QScrollArea;
+    auto* area = new FormArea;
     area->setFrameShape(QFrame::NoFrame);
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus);
     auto* form = new QWidget;
     auto* grid = new QGridLayout(form);
     grid->setHorizontalSpacing(10);
-    const int count = static_cast<int>(section.fields.size());
     const int columns = std::max(section.columns, 1);
-    const int perColumn = (count + columns - 1) / columns;
-    for (int i = 0; i < count; ++i) {
-        const EntryField& field = section.fields[static_cast<size_t>(i)];
-        const int at = firstField + i;
-        const int row = i % perColumn;
-        const int column = i / perColumn * 4;
+    int rows = 0;
+    for (const EntryField& field : section.fields)
+        rows += rowsOf(field);
+    const int perColumn = std::max((rows + columns - 1) / columns, 1);
+    int at = firstField - 1;
+    int next = 0;
+    for (const EntryField& field : section.fields) {
+        ++at;
+        const int row = next % perColumn;
+        const int column = next / perColumn * 3;
+        const int height = rowsOf(field);
+        next += height;
         QWidget* control = m_fields->control(at, form);
         m_pageOf.push_back(area);
         if (field.kind == Kind::Heading) {
@@ -115,25 +156,29 @@ QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
             control->setFont(font);
         }
         if (field.kind == Kind::Box || field.kind == Kind::Heading) {
-            grid->addWidget(control, row, column, 1, 3);
+            grid->addWidget(control, row, column, 1, 2);
             continue;
         }
         auto* caption = new QLabel(field.caption);
         caption->setBuddy(control);
-        grid->addWidget(caption, row, column, Qt::AlignRight | Qt::AlignVCenter);
-        if (auto* edit = qobject_cast<QLineEdit*>(control); edit && field.length > 0) {
-            // As wide as its text, within reason.
-            const int shown = std::clamp(field.length, 4, 50) + 3;
-            edit->setMaximumWidth(edit->fontMetrics().averageCharWidth() * shown + 40);
-        }
+        const Qt::Alignment side = height > 1 ? Qt::AlignTop : Qt::AlignVCenter;
+        grid->addWidget(caption, row, column, height, 1, Qt::AlignRight | side);
         const bool fills =
             field.kind == Kind::Memo || field.kind == Kind::Text || field.kind == Kind::Shown;
-        grid->addWidget(control, row, column + 1, fills ? Qt::Alignment() : Qt::AlignLeft);
-        if (QWidget* button = m_fields->searchButton(at, form))
-            grid->addWidget(button, row, column + 2, Qt::AlignLeft);
+        QWidget* button = m_fields->searchButton(at, form);
+        if (!button) {
+            grid->addWidget(control, row, column + 1, height, 1,
+                            fills ? Qt::Alignment() : Qt::AlignLeft);
+            continue;
+        }
+        auto* both = new QHBoxLayout;
+        both->addWidget(control, 1);
+        both->addWidget(button);
+        both->addStretch();
+        grid->addLayout(both, row, column + 1, height, 1);
     }
     for (int c = 0; c < columns; ++c)
-        grid->setColumnStretch(c * 4 + 1, 1);
+        grid->setColumnStretch(c * 3 + 1, 1);
     grid->setRowStretch(perColumn, 1);
     area->setWidget(form);
     return area;
@@ -242,6 +287,7 @@ void DataWindow::closeEvent(QCloseEvent* event)
         if (!mayLeave)
             return event->ignore();
     }
+    m_fields->stop();
     runCommand([this] { m_session.close(); });
     event->accept();
 }

@@ -28,6 +28,8 @@ public:
     void prepare();
     // The entry's texts and errors on the controls; fields that may not be typed in are read-only.
     void show(bool isForTyping);
+    // The entry's table closes: a field that is left is not checked any more.
+    void stop() { m_isForTyping = false; }
     // The texts of the controls into the entry.
     void take();
     // The keyboard to the field that the entry names.
