@@ -59,7 +59,16 @@ void ReportRun::setState(State state, const QString& processText)
     onChange();
 }
 
-void ReportRun::begin()
+bool ReportRun::isRefused(
+    const std::function<std::optional<ReportRefusal>(const ReportRun&)>& check)
+{
+    const auto refusal = check ? check(*this) : std::nullopt;
+    if (refusal)
+        showCritical(refusal->title, refusal->text);
+    return refusal.has_value();
+}
+
+void ReportRun::begin(size_t which)
 {
     if (isRunning() || !m_spec.canBegin)
         return;
@@ -68,12 +77,9 @@ void ReportRun::begin()
                      "Another Report is Being Printed. Wait for its End or Cancel it.");
         return;
     }
-    if (m_spec.check) {
-        if (const auto refusal = m_spec.check(*this)) {
-            showCritical(refusal->title, refusal->text);
-            return;
-        }
-    }
+    const bool isOneOfSeveral = which < m_spec.begins.size();
+    if (isRefused(m_spec.check) || (isOneOfSeveral && isRefused(m_spec.begins[which].check)))
+        return;
     m_isCancelled = false;
     m_isBroken = false;
     m_status.clear();
@@ -87,7 +93,7 @@ void ReportRun::begin()
         m_status = "Preparing to Create Spreadsheet...";
         m_furtherSinks.push_back(std::make_unique<WorkbookSink>(workbookPath()));
     }
-    printGuarded();
+    printGuarded(isOneOfSeveral ? m_spec.begins[which].print : m_spec.print);
     m_furtherSinks.clear();
 }
 
@@ -109,7 +115,7 @@ void ReportRun::cancelAll()
 }
 
 // A failure in the middle leaves what was drawn in the preview.
-void ReportRun::printGuarded()
+void ReportRun::printGuarded(const std::function<void(ReportRun&)>& print)
 {
     runningReports().append(this);
     m_isBroken = false;
@@ -121,7 +127,7 @@ void ReportRun::printGuarded()
         m_isBroken = true;
         dnReportEnd(*this);
     });
-    isWhole = runCommand([this] { m_spec.print(*this); });
+    isWhole = runCommand([&] { print(*this); });
 }
 
 void ReportRun::expectRows(int count)

@@ -26,8 +26,8 @@ public:
     // ---- the user
     // A refusal and a failure of the store are shown. Does nothing while this run is under way. One
     // report runs at a time: while another does, which waits as long as this would run, it is
-    // refused. The screen must not go before it returns.
-    void begin();
+    // refused. The screen must not go before it returns. `which` is one of the spec's `begins`.
+    void begin(size_t which = 0);
     void requestCancel() { m_isCancelled = m_isCancelled || isRunning(); }
     // Every run that is under way, when the program ends.
     static void cancelAll();
@@ -72,7 +72,8 @@ private:
 
     void setState(State state, const QString& processText);
     void letLive();
-    void printGuarded();
+    void printGuarded(const std::function<void(ReportRun&)>& print);
+    bool isRefused(const std::function<std::optional<ReportRefusal>(const ReportRun&)>& check);
 
     ReportSpec m_spec;
     Session m_session;

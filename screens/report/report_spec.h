@@ -77,6 +77,15 @@ struct ReportRefusal
     QString text;
 };
 
+// One of several things that a screen prints, with a command of its own.
+struct ReportBegin
+{
+    const char* name;  // system name, such as "cmdPrintAll"
+    QString caption;
+    std::function<void(ReportRun&)> print;
+    std::function<std::optional<ReportRefusal>(const ReportRun&)> check = {};
+};
+
 struct ReportSpec
 {
     QString name;
@@ -91,7 +100,9 @@ struct ReportSpec
     std::function<std::optional<ReportRefusal>(const ReportRun&)> check = {};
     bool canBegin = true;  // false: only the way out is left
     // From dnReportBegin to dnReportEnd.
-    std::function<void(ReportRun&)> print;
+    std::function<void(ReportRun&)> print = {};
+    // In place of `print` and cmdBegin where the screen prints several things.
+    std::vector<ReportBegin> begins = {};
     // The name of the workbook in the user's folder, such as "POLOG.xls"; none: paper only.
     std::function<QString(const ReportRun&)> workbookName = {};
     std::optional<PaperSize> paper = {};  // none: that of the printer

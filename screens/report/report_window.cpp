@@ -54,6 +54,7 @@ void ReportWindow::focusFirst()
     while (m_fields->isAncestorOf(first) && !(first->focusPolicy() & Qt::TabFocus))
         first = first->nextInFocusChain();
     (m_fields->isAncestorOf(first) ? first
+     : !m_begins.empty()           ? m_begins.front()
      : m_run.spec().canBegin       ? static_cast<QWidget*>(m_begin)
                                    : m_exit)
         ->setFocus();
@@ -101,6 +102,15 @@ QWidget* ReportWindow::buildStrip()
         button->setAutoDefault(true);
     onPressed(m_begin, [this] { pressBegin(); });
     onPressed(m_exit, [this] { pressExit(); });
+    for (size_t i = 0; i < m_run.spec().begins.size(); ++i) {
+        const ReportBegin& one = m_run.spec().begins[i];
+        auto* button = new QPushButton(one.caption);
+        button->setObjectName(one.name);
+        button->setAutoDefault(true);
+        onPressed(button, [this, i] { beginRun(i); });
+        row->addWidget(button);
+        m_begins.push_back(button);
+    }
     row->addWidget(m_begin);
     row->addWidget(m_exit);
     row->addWidget(m_process);
@@ -123,12 +133,17 @@ void ReportWindow::pressBegin()
                 dnReportFullScreen();
             return;
         case ReportRun::State::Idle:
-            break;
+            return beginRun(0);
     }
+}
+
+void ReportWindow::beginRun(size_t which)
+{
+    m_run.selectionChanged();  // another thing is printed than the one that is finished
     // A control in which the keyboard still is takes what was typed when it loses it.
     const QPointer<QWidget> before = focusWidget();
-    m_begin->setFocus();
-    m_run.begin();
+    (m_begins.empty() ? m_begin : m_begins[which])->setFocus();
+    m_run.begin(which);
     if (m_run.state() == ReportRun::State::Finished)
         m_preview->setFocus();
     else if (before)
@@ -178,7 +193,10 @@ void ReportWindow::showState()
         caption = m_isMaxView ? "&Restore" : "&Max View";
     if (m_begin->text() != caption)
         m_begin->setText(caption);
-    m_begin->setVisible(m_run.spec().canBegin);
+    const bool hasSeveral = !m_begins.empty();
+    m_begin->setVisible(m_run.spec().canBegin && (!hasSeveral || isRunning || isFinished));
+    for (QPushButton* button : m_begins)
+        button->setVisible(!isRunning && !m_isMaxView);
     m_process->setText(m_run.processText());
     m_process->setVisible(!m_run.processText().isEmpty());
 

@@ -2,7 +2,8 @@
 // the preview, which comes with the first run. cmdBegin is Begin, then Cancel, and after the run it
 // toggles Max View, which leaves the strip and the preview alone. Changing a field after a run
 // makes it Begin again; the pages stay. CmdExit and the window's own close button cancel a run; the
-// latter closes the screen when the run has ended.
+// latter closes the screen when the run has ended. A screen that prints several things has a
+// command for each, and cmdBegin only while one runs and after.
 #pragma once
 
 #include <QWidget>
@@ -38,6 +39,7 @@ private:
     void focusFirst();
     QWidget* buildStrip();
     void pressBegin();
+    void beginRun(size_t which);
     void pressExit();
     void showState();
 
@@ -45,6 +47,7 @@ private:
     QWidget* m_fields;
     std::vector<std::function<void()>> m_choices;  // of the fields whose selection decides them
     QPushButton* m_begin;
+    std::vector<QPushButton*> m_begins;  // of a screen that prints several things
     QPushButton* m_exit;
     QLabel* m_process;
     QProgressBar* m_progress;
