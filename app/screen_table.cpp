@@ -5,6 +5,7 @@
 #include "cost/invoice_codes.h"
 #include "cost/job_defaults.h"
 #include "cost/jobs.h"
+#include "inventory/address_books.h"
 #include "inventory/branches.h"
 #include "purchasing/code_lists.h"
 #include "purchasing/document_texts.h"
@@ -49,11 +50,13 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
     {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},
+    {"frmVEXMFG01", browse<frmVEXMFG01>},
     {"frmVEXRT01", browse<frmVEXRT01>},
     {"frmVEXReportSelector", reportSelector},
     {"frmVEXSHIPTO01", browse<frmVEXSHIPTO01>},
     {"frmVEXSHIPVIA01", browse<frmVEXSHIPVIA01>},
     {"frmVEXTRMC01", browse<frmVEXTRMC01>},
+    {"frmVEXVEN01", browse<frmVEXVEN01>},
     {"frmVEXWHODIDIT01", browse<frmVEXWHODIDIT01>},
     {"frmZORCO01", browse<frmZORCO01>},
     {"frmZORJOB01", newJobNumbers},

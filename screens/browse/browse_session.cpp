@@ -127,8 +127,9 @@ bool BrowseSession::activeRecordTest(bool needsRecord)
     }
     if (!needsRecord || m_list.isOnRecord())
         return true;
-    showCritical("No Active Record.",
-                 "Highlighted Browse Bar Must be on a Current Record to Continue.");
+    if (m_spec.detail.tellsNoRecord)
+        showCritical("No Active Record.",
+                     "Highlighted Browse Bar Must be on a Current Record to Continue.");
     return false;
 }
 

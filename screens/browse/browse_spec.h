@@ -80,7 +80,8 @@ struct BrowseDetail
     // The record lock taken before an edit or a deletion, such as "VENDORS"; the detail screen
     // gives it up. Blank: none.
     QString lock = {};
-    bool hasView = false;  // View is a command of the list
+    bool hasView = false;       // View is a command of the list
+    bool tellsNoRecord = true;  // false: a command that needs a record does nothing without one
 };
 
 struct BrowsePrint

@@ -1,6 +1,7 @@
 #include "screens/report/report_window.h"
 #include "screens/help.h"
 
+#include "screens/command_bar.h"
 #include "screens/command_runner.h"
 #include "screens/report/page_preview.h"
 #include "screens/report/page_view.h"
@@ -24,6 +25,8 @@ ReportWindow::ReportWindow(ReportSpec spec, const Session& session)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(10, 8, 10, 8);
     layout->addWidget(m_fields);
+    if (!m_run.spec().begins.empty())
+        layout->addWidget(buildBegins());
     layout->addWidget(buildStrip());
     layout->addWidget(m_preview, 1);
     layout->addWidget(m_emptySpace, 1);
@@ -84,11 +87,26 @@ void ReportWindow::askChoices()
         ask();
 }
 
+QWidget* ReportWindow::buildBegins()
+{
+    auto* bar = new CommandBar;
+    for (size_t i = 0; i < m_run.spec().begins.size(); ++i) {
+        const ReportBegin& one = m_run.spec().begins[i];
+        m_begins.push_back(bar->add(one.name, one.caption, [this, i] { beginRun(i); }));
+    }
+    return bar;
+}
+
 QWidget* ReportWindow::buildStrip()
 {
     auto* strip = new QWidget;
-    auto* row = new QHBoxLayout(strip);
-    row->setContentsMargins(0, 0, 0, 0);
+    auto* lines = new QVBoxLayout(strip);
+    lines->setContentsMargins(0, 0, 0, 0);
+    // Several commands with their captions fill a line of their own.
+    auto* begins = new QHBoxLayout;
+    lines->addLayout(begins);
+    auto* row = new QHBoxLayout;
+    lines->addLayout(row);
     m_begin->setObjectName("cmdBegin");
     m_exit->setObjectName("CmdExit");
     m_process->setObjectName("lblProcess");
@@ -102,15 +120,6 @@ QWidget* ReportWindow::buildStrip()
         button->setAutoDefault(true);
     onPressed(m_begin, [this] { pressBegin(); });
     onPressed(m_exit, [this] { pressExit(); });
-    for (size_t i = 0; i < m_run.spec().begins.size(); ++i) {
-        const ReportBegin& one = m_run.spec().begins[i];
-        auto* button = new QPushButton(one.caption);
-        button->setObjectName(one.name);
-        button->setAutoDefault(true);
-        onPressed(button, [this, i] { beginRun(i); });
-        row->addWidget(button);
-        m_begins.push_back(button);
-    }
     row->addWidget(m_begin);
     row->addWidget(m_exit);
     row->addWidget(m_process);

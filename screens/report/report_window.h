@@ -37,6 +37,7 @@ private:
     void buildFields();
     void askChoices();
     void focusFirst();
+    QWidget* buildBegins();
     QWidget* buildStrip();
     void pressBegin();
     void beginRun(size_t which);
