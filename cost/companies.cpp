@@ -4,9 +4,12 @@
 #include <QFileInfo>
 
 #include "core/storage/file_paths.h"
+#include "cost/cost_prints.h"
 #include "cost/job_checks.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_window.h"
+#include "screens/desktop.h"
+#include "screens/report/report_window.h"
 #include "screens/search/job_searches.h"
 #include "screens/system_dialogs.h"
 
@@ -173,6 +176,10 @@ BrowseSpec frmZORCO01()
         .detail = {.tagField = "CONO", .tagIndex = "CONO", .open = openCompany, .hasView = true},
         .search =
             [](const BrowseSession& list) { return zorSearchCompany(list.session().JobSitePath); },
+        .print = {.run =
+                      [](BrowseSession& list) {
+                          openScreen(new ReportWindow(frmZORCO03(), list.session()));
+                      }},
     };
 }
 

@@ -1,11 +1,14 @@
 #include "cost/jobs.h"
 
 #include "core/text.h"
+#include "cost/cost_prints.h"
 #include "cost/job_checks.h"
 #include "cost/job_clone_window.h"
 #include "cost/job_settings.h"
 #include "screens/browse/browse_window.h"
 #include "screens/data/data_window.h"
+#include "screens/desktop.h"
+#include "screens/report/report_window.h"
 #include "screens/search/job_searches.h"
 
 namespace {
@@ -88,6 +91,15 @@ void openClone(BrowseSession& list)
     list.list().rebuild();
 }
 
+void openPrint(BrowseSession& list)
+{
+    const bool isOnJob = list.list().isOnRecord() && list.list().goToCurrent();
+    openScreen(
+        new ReportWindow(frmZORJOB04(list.parentKey("CONO").toInt(),
+                                     isOnJob ? textOf(list.list().rows()["JOBNO"]) : QString()),
+                         list.session()));
+}
+
 }  // namespace
 
 BrowseSpec frmZORJOB01(const JobNoFormat& format)
@@ -130,6 +142,7 @@ BrowseSpec frmZORJOB01(const JobNoFormat& format)
                 return zorSearchJob(list.session().JobSitePath,
                                     static_cast<qint16>(list.parentKey("CONO").toInt()));
             },
+        .print = {.run = openPrint},
         .commands = {{.name = "cmdCostcodes",
                       .caption = "&Costcodes",
                       .run = openCostCodes,

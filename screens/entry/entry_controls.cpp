@@ -138,9 +138,12 @@ void setText(QWidget* control, const QString& text)
 {
     if (textOf(control) == text)
         return;
-    if (auto* edit = qobject_cast<QLineEdit*>(control))
+    if (auto* edit = qobject_cast<QLineEdit*>(control)) {
         edit->setText(text);
-    else if (auto* memo = qobject_cast<QPlainTextEdit*>(control))
+        if (!edit->hasFocus())
+            edit->setCursorPosition(0);  // a long text shows its beginning
+    }
+    if (auto* memo = qobject_cast<QPlainTextEdit*>(control))
         memo->setPlainText(text);
     else if (auto* box = qobject_cast<QCheckBox*>(control))
         box->setChecked(text == "-1");
