@@ -4,6 +4,7 @@
 #include "cost/gl_codes.h"
 #include "cost/invoice_codes.h"
 #include "cost/job_defaults.h"
+#include "cost/job_site_settings.h"
 #include "cost/jobs.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
@@ -61,6 +62,7 @@ constexpr ScreenFactory screens[] = {
     {"frmZORCO01", browse<frmZORCO01>},
     {"frmZORJOB01", newJobNumbers},
     {"frmZORJS01", browse<frmZORJS01>},
+    {"frmZORSYS", newJobSiteSettings},
 };
 
 }  // namespace

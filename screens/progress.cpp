@@ -24,11 +24,24 @@ Progress::~Progress() = default;
 bool Progress::step()
 {
     ++m_count;
+    constexpr int seldom = 64;
+    return m_count % seldom == 0 ? showNow(m_text + "\n" + QLocale::c().toString(m_count))
+                                 : !m_dialog->wasCanceled();
+}
+
+bool Progress::tell(const QString& text)
+{
+    ++m_count;
+    return showNow(text);
+}
+
+bool Progress::showNow(const QString& text)
+{
     const qint64 wait = m_dialog->isVisible() ? shownEvery : shownAfter;
-    if (m_count % 64 != 0 || m_sinceShown.elapsed() < wait)
+    if (m_sinceShown.elapsed() < wait)
         return !m_dialog->wasCanceled();
     m_sinceShown.restart();
-    m_dialog->setLabelText(m_text + "\n" + QLocale::c().toString(m_count));
+    m_dialog->setLabelText(text);
     m_dialog->show();
     QCoreApplication::processEvents();
     return !m_dialog->wasCanceled();

@@ -18,9 +18,13 @@ public:
 
     // After each record; cheap. False as soon as the user has asked to stop.
     bool step();
+    // The same at a step that takes a while of itself, with a text of its own.
+    bool tell(const QString& text);
     qint64 count() const { return m_count; }
 
 private:
+    bool showNow(const QString& text);
+
     std::unique_ptr<QProgressDialog> m_dialog;
     QString m_text;
     QElapsedTimer m_sinceShown;

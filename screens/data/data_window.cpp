@@ -192,9 +192,11 @@ void DataWindow::buildCommands()
     m_update = m_commands->add("cmdUpdate", m_session.updateCaption(), [this] {
         bool isFinished = false;
         run([&] { isFinished = m_session.update(); });
+        const bool isSaved = m_session.spec().staysOpen && !m_session.entry().isChanged() &&
+                             m_session.entry().errors().ErrorCount() == 0;
         if (isFinished)
             close();
-        else
+        else if (!isSaved)  // else the user stays on his page
             takeFocus();
     });
     m_cancel = m_commands->add("cmdCancel", m_session.cancelCaption(), [this] { close(); });

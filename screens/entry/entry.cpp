@@ -69,6 +69,8 @@ void Entry::begin(const QString& mode, storage::Recordset& rows, const EntryPlac
     m_place = place;
     m_bookmark = isAdding() ? noBookmark : rows.Bookmark();
     m_given.clear();
+    m_isGivenAnew = m_isTagDrawn = false;
+    m_tag = 0;
     m_errors.ClearAll();
     m_focus = 0;
     for (int i = 0; i < count(); ++i)
@@ -131,6 +133,7 @@ double Entry::number(schema::FieldName wanted) const
 void Entry::give(schema::FieldName wanted, const storage::Value& value)
 {
     m_given.insert(wanted.number(), {wanted, value});
+    m_isGivenAnew = true;
 }
 
 storage::Value Entry::given(schema::FieldName wanted) const
@@ -177,6 +180,12 @@ void Entry::setText(schema::FieldName wanted, const QString& text)
         setText(at, text);
         m_errors.ClearField(at + 1);
     }
+}
+
+void Entry::takeAsUnchanged(schema::FieldName wanted)
+{
+    if (const int at = indexOf(wanted); at >= 0)
+        m_textsBefore[at] = m_texts[at];
 }
 
 void Entry::setNamed(const QString& control, const QString& text)
@@ -290,8 +299,13 @@ bool Entry::goToRecord() const
     }
 }
 
-bool Entry::write(qint32 tag, const TagSource& source,
-                  const std::function<void(storage::Recordset&)>& complete)
+void Entry::drawTag(const TagSource& source)
+{
+    if (isAdding() && !std::exchange(m_isTagDrawn, true))
+        m_tag = newTag(source, m_session);
+}
+
+bool Entry::write(const TagSource& source, const std::function<void(storage::Recordset&)>& complete)
 {
     storage::Recordset& rows = *m_rows;
     try {
@@ -302,7 +316,7 @@ bool Entry::write(qint32 tag, const TagSource& source,
         for (const KeyField& key : parent())
             rows[key.field] = key.key;
         if (isAdding() && !source.field.isEmpty())
-            rows.fieldNamed(source.field) = tag;  // 0, too, after a counter failed
+            rows.fieldNamed(source.field) = m_tag;  // 0, too, after a counter failed
         for (int i = 0; i < count(); ++i) {
             if (tableField(i) < 0)
                 continue;

@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "core/keyed_access.h"
-#include "screens/entry/error_collector.h"
 #include "screens/entry/entry_field.h"
+#include "screens/entry/error_collector.h"
 
 // Where a new record's tag comes from; no field: the table has none.
 struct TagSource
@@ -42,12 +42,17 @@ public:
     QString named(const QString& control) const;        // by the control's system name
     bool isBlank(schema::FieldName field) const;
     bool isTicked(schema::FieldName field) const { return (*this)[field] == "-1"; }
-    // The number that is typed; 0 for none.
+    // The number that is typed, with or without commas; 0 for none, which is what is written then.
     double number(schema::FieldName field) const;
-    // A value that is not typed but belongs to the entry; Update writes it. Null where none was
-    // given.
+    // A value that is not typed but belongs to the entry; Update writes it, in place of what is
+    // typed where a field has both. Null where none was given.
     void give(schema::FieldName field, const storage::Value& value);
     storage::Value given(schema::FieldName field) const;
+
+    // The tag of the new record, drawn before EntryRules::beforeWrite, once for each entry; 0 where
+    // the table has none, the counter failed, or a record is edited.
+    qint32 tag() const { return m_tag; }
+    void drawTag(const TagSource& source);
 
     const QString& mode() const { return m_mode; }
     bool isAdding() const { return m_mode == "A"; }
@@ -79,9 +84,15 @@ public:
     // How many characters the field takes.
     int lengthOf(int at) const;
     // True if something else stands in the fields than at the beginning.
-    bool isChanged() const { return m_texts != m_textsBefore || !m_given.isEmpty(); }
+    bool isChanged() const { return m_texts != m_textsBefore || m_isGivenAnew; }
     // What stands there now is the beginning.
-    void takeAsUnchanged() { m_textsBefore = m_texts; }
+    void takeAsUnchanged()
+    {
+        m_textsBefore = m_texts;
+        m_isGivenAnew = false;
+    }
+    // The same of one field, which was saved by itself.
+    void takeAsUnchanged(schema::FieldName field);
 
     // ---- checks
     // Tidies a field that is left, checks it, and where the user has changed it lets it change
@@ -108,8 +119,7 @@ public:
     // `complete` writes the rest before Update. The handle stands on the record in hand when it is
     // edited. False after the box "Cannot Update" with the store's text; nothing is written then
     // and the field at fault has the focus.
-    bool write(qint32 tag, const TagSource& source,
-               const std::function<void(storage::Recordset&)>& complete);
+    bool write(const TagSource& source, const std::function<void(storage::Recordset&)>& complete);
 
 private:
     storage::Value valueOf(int at) const;
@@ -125,6 +135,9 @@ private:
     QStringList m_texts;
     QStringList m_textsBefore;
     QHash<quint16, KeyField> m_given;
+    bool m_isGivenAnew = false;
+    bool m_isTagDrawn = false;
+    qint32 m_tag = 0;
     ErrorCollector m_errors;
     int m_focus = 0;
 };
@@ -138,8 +151,10 @@ public:
     // Before an entry, its fields filled: false leaves it again (the user was told). May set texts
     // and give values.
     virtual bool begin(Entry&) { return true; }
-    // The checks have passed: false writes nothing and stays in the entry (the user was told).
-    virtual bool beforeWrite(Entry&) { return true; }
+    // The checks have passed, the tag is drawn. Stay and Leave write nothing (the user was told);
+    // Leave ends the entry.
+    enum class Step { Write, Stay, Leave };
+    virtual Step beforeWrite(Entry&) { return Step::Write; }
     // Between AddNew or Edit and Update, after the keys, the tag, the typed fields and the given
     // ones were written to `rows`.
     virtual void complete(const Entry&, storage::Recordset& /*rows*/) {}
