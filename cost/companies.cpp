@@ -60,10 +60,10 @@ public:
         return true;
     }
 
-    bool beforeWrite(Entry& entry) override
+    Step beforeWrite(Entry& entry) override
     {
         if (entry.isAdding() || !entry.goToRecord())
-            return true;
+            return Step::Write;
         const std::optional<Refusal> refusal =
             refuseCompanyNumberChange(entry.session().JobSitePath, intOf(entry.rows()["CONO"]),
                                       static_cast<int>(entry.number("CONO")));
@@ -71,7 +71,7 @@ public:
             showCritical(refusal->title, refusal->text);
             entry.setFocus("CONO");
         }
-        return !refusal;
+        return refusal ? Step::Stay : Step::Write;
     }
 };
 

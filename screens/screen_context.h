@@ -7,7 +7,7 @@
 
 struct ScreenContext
 {
-    Session session;  // the screen's own copy
-    QString mode;     // such as the cost code group; blank where a screen has none
-    QSize desktop;    // full client size of the main window
+    Session session = {};  // the screen's own copy
+    QString mode = {};     // such as the cost code group; blank where a screen has none
+    QSize desktop = {};    // full client size of the main window
 };

@@ -244,8 +244,13 @@ bool BrowseSession::update()
 {
     if (tellsErrorsAtOnce() ? refuseAll() : refuseFirst())
         return isBrowsing();
-    if ((m_spec.rules && !m_spec.rules->beforeWrite(m_entry)) || !write())
-        return false;
+    m_entry.drawTag(m_spec.tag);
+    using Step = EntryRules::Step;
+    const Step step = m_spec.rules ? m_spec.rules->beforeWrite(m_entry) : Step::Write;
+    if (step == Step::Leave)
+        cancel();
+    if (step != Step::Write || !write())
+        return isBrowsing();
     m_list.BrowseCurrent = m_list.rows().LastModified();
     if (EditMode == "A")
         m_list.BrowseRow = m_entryRow;
@@ -274,8 +279,7 @@ bool BrowseSession::write()
 {
     if (EditMode == "E" && !goToEdited())
         return false;
-    const qint32 tag = EditMode == "A" ? newTag(m_spec.tag, m_session) : 0;
-    if (!m_entry.write(tag, m_spec.tag, [this](storage::Recordset& rows) {
+    if (!m_entry.write(m_spec.tag, [this](storage::Recordset& rows) {
             if (m_spec.rules)
                 m_spec.rules->complete(m_entry, rows);
         }))

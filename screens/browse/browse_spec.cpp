@@ -14,6 +14,7 @@ std::vector<EntryField> entryFieldsOf(const std::vector<BrowseColumn>& columns)
                               .length = column.length,
                               .keys = column.keys,
                               .alignment = column.alignment,
+                              .choicesFor = column.choicesFor,
                               .tidy = column.tidy,
                               .check = column.check,
                               .search = column.search,

@@ -33,6 +33,7 @@ struct BrowseColumn
     std::function<QString(const Entry&)> search = {};
     std::function<void(Entry&)> left = {};
     EntryField::Kind kind = EntryField::Kind::Text;
+    std::function<std::vector<EntryChoice>(const Entry&)> choicesFor = {};
     bool isPrinted = true;
 };
 
@@ -58,8 +59,8 @@ BrowseParent branchParent();
 struct BrowseCommand
 {
     QString name;
-    QString caption;
-    std::function<void(BrowseSession&)> run;
+    QString caption = {};
+    std::function<void(BrowseSession&)> run = {};
     bool inEntryMode = false;
     QKeyCombination key = Qt::Key_unknown;  // while the list has the keyboard
     bool needsRecord = false;

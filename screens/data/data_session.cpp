@@ -121,8 +121,15 @@ bool DataSession::update()
     }
     if (m_mode == "D")
         return remove();
-    if (refuse() || (m_spec.rules && !m_spec.rules->beforeWrite(m_entry)) || !write())
+    if (refuse())
         return false;
+    m_entry.drawTag(m_spec.tag);
+    using Step = EntryRules::Step;
+    const Step step = m_spec.rules ? m_spec.rules->beforeWrite(m_entry) : Step::Write;
+    if (step == Step::Leave)
+        m_entry.takeAsUnchanged();
+    if (step != Step::Write || !write())
+        return step == Step::Leave;
     if (m_spec.savedMessage)
         Messages::current().show(*m_spec.savedMessage);
     return !m_spec.staysOpen;
@@ -147,8 +154,7 @@ bool DataSession::write()
         m_entry.becomeNew();
         return false;
     }
-    const qint32 tag = m_mode == "A" ? newTag(m_spec.tag, m_session) : 0;
-    if (!m_entry.write(tag, m_spec.tag, [this](storage::Recordset& written) {
+    if (!m_entry.write(m_spec.tag, [this](storage::Recordset& written) {
             if (m_spec.rules)
                 m_spec.rules->complete(m_entry, written);
         }))

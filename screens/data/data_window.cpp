@@ -216,10 +216,8 @@ void DataWindow::showState()
     setWindowTitle(m_session.caption());
     m_update->setText(m_session.updateCaption());
     if (m_session.isForTyping())
-        m_keys->setKeys({{"Enter", "Next field"},
-                         {"?", "Search in a field with a button"},
-                         {"Alt+U", "Update"},
-                         {"Esc", "Leave"}});
+        m_keys->setKeys(
+            {{"Enter", "Next field"}, {"?", "Search"}, {"Alt+U", "Update"}, {"Esc", "Leave"}});
     else
         m_keys->setKeys({{"Esc", "Leave"}});
 }

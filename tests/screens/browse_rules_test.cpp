@@ -296,7 +296,11 @@ public:
             entry.setText("ILCNAME", "begun");
         return take("begin" + entry.mode());
     }
-    bool beforeWrite(Entry&) override { return take("beforeWrite"); }
+    Step beforeWrite(Entry& entry) override
+    {
+        tag = entry.tag();
+        return take("beforeWrite") ? Step::Write : Step::Stay;
+    }
     void complete(const Entry& entry, storage::Recordset& rows) override
     {
         take("complete" + textOf(rows["ILCCODE"]) + entry.given("ILCTAG").toString());
@@ -309,6 +313,7 @@ public:
 
     QStringList steps;
     QString refused;
+    qint32 tag = 0;
 
 private:
     bool take(const QString& step)
