@@ -149,3 +149,28 @@ QString dnNextBookmark(Recordset& rs, const QString& bookmark, KeyFields keys)
     }
     return noBookmark;
 }
+
+bool forEachWithin(storage::Recordset& rs, const QString& indexName, KeyFields keys,
+                   const std::function<bool()>& take)
+{
+    std::vector<storage::Value> values;
+    for (const KeyField& key : keys)
+        values.push_back(key.key);
+    rs.Index(indexName);
+    bool more = rs.RecordCount() > 0 && rs.seekKeys("=", values);
+    for (; more && dnInbounds(rs, keys); more = rs.MoveNext())
+        if (!take())
+            return false;
+    return true;
+}
+
+int deleteWithin(storage::Recordset& rs, const QString& indexName, KeyFields keys)
+{
+    int count = 0;
+    forEachWithin(rs, indexName, keys, [&] {
+        rs.Delete();
+        ++count;
+        return true;
+    });
+    return count;
+}

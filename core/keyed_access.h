@@ -2,6 +2,7 @@
 // own box and gives an empty or false result, with which the callers go on.
 #pragma once
 
+#include <functional>
 #include <initializer_list>
 #include <span>
 
@@ -66,6 +67,14 @@ bool goToFound(storage::Recordset& rs, const QString& bookmark);
 bool dnInbounds(storage::Recordset& rs, KeyFields keys);
 // The comparison of one field in it.
 bool holdsKey(const storage::Field& field, const storage::Value& key);
+
+// Goes through the records whose first fields along the index equal the keys, in order, while
+// `take` gives true. `take` may delete the record or write what is no key of the index; whoever
+// moves records along it collects their bookmarks first. False when it was stopped.
+bool forEachWithin(storage::Recordset& rs, const QString& indexName, KeyFields keys,
+                   const std::function<bool()>& take);
+// Deletes those records; how many they were.
+int deleteWithin(storage::Recordset& rs, const QString& indexName, KeyFields keys);
 
 // Where to stand when the record at `bookmark` will have been deleted: the next record within the
 // keys, else the one before, else " ".

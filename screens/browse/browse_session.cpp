@@ -348,6 +348,16 @@ void BrowseSession::run(const BrowseCommand& command)
     command.run(*this);
 }
 
+bool BrowseSession::showTag(qint32 tag)
+{
+    const bool ofDetail = opensDetail();
+    storage::Recordset& rows = m_list.rows();
+    rows.Index(ofDetail ? m_spec.detail.tagIndex : m_spec.tag.field);
+    const QString place = rows.Seek("=", tag) ? rows.Bookmark() : QString();
+    rows.Index(m_list.source().index);
+    return m_list.show(place);
+}
+
 QString BrowseSession::captionOf(const BrowseCommand& command) const
 {
     return command.captionFor ? command.captionFor(*this) : command.caption;
@@ -365,7 +375,7 @@ bool BrowseSession::openDetail(const QString& mode)
     if (!isBrowsing() || !activeRecordTest(!isNew) || (!isNew && !m_list.goToCurrent()))
         return false;
     const qint32 tag = isNew ? 0 : intOf(m_list.rows().fieldNamed(m_spec.detail.tagField));
-    if ((mode == "E" || mode == "D") && !takeLock(tag))
+    if (m_spec.detail.lockedModes.contains(mode) && !takeLock(tag))
         return false;
     dnSetHOTTAG(m_session.UserSettingsPath, m_winTag, tag);
     const bool opened = m_spec.detail.open(*this, mode, tag, m_winTag);

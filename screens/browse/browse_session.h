@@ -52,6 +52,9 @@ public:
     // The tag of the record under the highlight, by the detail's tag field, else by that of new
     // records; 0 on no record.
     qint32 currentTag();
+    // The record with that tag to row 0, under the highlight; false when the list has none. The
+    // index by tag is the detail's, else the one that bears the field's name.
+    bool showTag(qint32 tag);
 
     QString EditMode = " ";
     bool isBrowsing() const { return EditMode == " "; }
@@ -65,8 +68,9 @@ public:
     void print();
     void run(const BrowseCommand& command);
     // Opens the detail screen in a mode; it is about the record under the highlight unless the mode
-    // is "A". The list's row in the registry names the record first; the lock of the spec is taken
-    // for "E" and "D". False when nothing was opened.
+    // is "A", and on no record it is refused. The list's row in the registry names the record
+    // first; the lock of the spec is taken for the modes that it names. False when nothing was
+    // opened.
     bool openDetail(const QString& mode);
     QString captionOf(const BrowseCommand& command) const;
     // This screen's number in the window registry; 0 without a detail screen.

@@ -78,9 +78,10 @@ struct BrowseDetail
     QString tagIndex = {};
     // False: nothing was opened (the user was told).
     std::function<bool(BrowseSession&, const QString& mode, qint32 tag, qint16 winTag)> open = {};
-    // The record lock taken before an edit or a deletion, such as "VENDORS"; the detail screen
-    // gives it up. Blank: none.
+    // The record lock taken before the screen opens in one of those modes, such as "VENDORS"; it
+    // gives it up when it closes. Blank: none.
     QString lock = {};
+    QString lockedModes = "ED";
     bool hasView = false;       // View is a command of the list
     bool tellsNoRecord = true;  // false: a command that needs a record does nothing without one
 };

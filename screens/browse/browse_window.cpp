@@ -404,3 +404,8 @@ void BrowseWindow::closeEvent(QCloseEvent* event)
         });
     event->accept();
 }
+
+void openBrowseScreen(BrowseSpec spec, const Session& session, const std::vector<KeyField>& parent)
+{
+    openScreen(new BrowseWindow(std::move(spec), {.session = session}, parent));
+}

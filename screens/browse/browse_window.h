@@ -100,3 +100,8 @@ private:
     bool m_wasEntering = false;
     bool m_loaded = false;
 };
+
+// Opens a list on the desktop, of the records below those keys where the spec's parent is given.
+// For commands of other screens.
+void openBrowseScreen(BrowseSpec spec, const Session& session,
+                      const std::vector<KeyField>& parent = {});

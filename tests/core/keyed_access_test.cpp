@@ -252,4 +252,19 @@ TEST_F(KeyedAccess, KnowsTheMarkedRowsOfADocument)
     EXPECT_TRUE(bookmark.isEmpty());
 }
 
+TEST_F(KeyedAccess, MarksRowsOnceAndTakesTheMarksOfOneDocumentAway)
+{
+    OpenTable marks = site.open("ZORUSER.mdb", "TAGLIST");
+    for (const int item : {9, 3, 9, 0})
+        zorTagListSet(marks.rows, "PO ", 4, "RQI", item, "4-1");
+    zorTagListSet(marks.rows, "PO ", 5, "RQI", 1);
+    zorTagListSet(marks.rows, "PO ", 4, "PAY", 2);
+    EXPECT_EQ(zorTagListItems(marks.rows, "PO ", 4, "RQI"), (std::vector<qint32>{3, 9}));
+    zorTagListUnset(marks.rows, "PO ", 4, "RQI", 3);
+    EXPECT_EQ(zorTagListItems(marks.rows, "PO ", 4, "RQI"), std::vector<qint32>{9});
+    zorTagListSet(marks.rows, "PO ", 4, "RQI", 3);
+    zorTagListClear(marks.rows, "PO ", 4, "RQI");
+    EXPECT_EQ(site.rowCount("ZORUSER.mdb", "TAGLIST"), 2) << "other documents and kinds stay";
+}
+
 }  // namespace

@@ -389,6 +389,9 @@ TEST_F(BrowseRules, AListMayBeBrowsedByOtherKeysAndShowsWhatLiesBesideIt)
     list.setParent({{"ILCTAG", 1}});
     EXPECT_EQ(shown(), (QStringList{"B1Yard", "B2Yard"}));
     EXPECT_EQ(list.currentTag(), 10);
+    EXPECT_TRUE(list.showTag(5));
+    EXPECT_EQ(list.currentTag(), 5);
+    EXPECT_FALSE(list.showTag(20)) << "another branch's";
     list.browseBy("BINTAG", {{"BINTAG", 20}});
     EXPECT_EQ(shown(), QStringList{"B3?!"});
     EXPECT_EQ(list.parentKey("BINTAG").toInt(), 20);
