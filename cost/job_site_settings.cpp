@@ -170,7 +170,7 @@ DataSection jobNumberSection()
 
 DataSection documentSection()
 {
-    return {.caption = "&2 Requisitions and POs",
+    return {.caption = "&2 Documents",
             .fields = {
                 box("ckbVEXNODECIMAL", "VEXNODECIMAL", "Integer Quantities Only (No Decimals)."),
                 box("ckbVEXUSECOL2", "VEXUSECOL2", "Activate Column 2 in Requisition/PO Detail."),
@@ -229,7 +229,7 @@ DataSection costCodeSection()
 
 DataSection menuSection()
 {
-    return {.caption = "&5 EcoSys and Main Menu",
+    return {.caption = "&5 EcoSys and Menu",
             .fields = {heading("EcoSys Option "),
                        box("ckbECOSYSXREF", "ECOSYSXREF", "This Job Site is Tied to EcoSys."),
                        text("txtPROJTAG", "PROJTAG", "Project Tag:"),

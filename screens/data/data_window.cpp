@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <memory>
 
@@ -111,6 +112,10 @@ void DataWindow::build()
             m_pages->addTab(page, section.caption);
         else
             layout->addWidget(page, 1);
+    }
+    if (m_pages) {  // room for all their captions, as far as displays are wide
+        constexpr int widest = 1000;
+        m_pages->setMinimumWidth(std::min(m_pages->tabBar()->sizeHint().width(), widest));
     }
     layout->addWidget(m_errorBox);
     layout->addWidget(m_commands);
