@@ -82,8 +82,8 @@ void DesktopArea::place(QMdiSubWindow* window, bool centred) const
     const QSize room = viewport()->size();
     const QRect kept = m_layout.value(placeKey(*screen)).toRect();
     QSize size = window->sizeHint();
-    if (kept.isValid())
-        size = kept.size();
+    if (kept.isValid())  // never smaller than what it has come to need since
+        size = kept.size().expandedTo(window->minimumSizeHint());
     else if (screen->testAttribute(Qt::WA_Resized))  // a size of the screen's own choice
         size = size.expandedTo(screen->size());
     window->resize(size.boundedTo(room));

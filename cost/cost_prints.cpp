@@ -22,17 +22,6 @@ QString companyText(int CONO)
 }
 
 // "Tulsa, OK 74101-2210", as far as there is something.
-QString placeOf(const storage::Recordset& company)
-{
-    QString place = trimmedTextOf(company["CITY"]);
-    const QString state = trimmedTextOf(company["State"]);
-    if (!place.isEmpty() && !state.isEmpty())
-        place += ", ";
-    place += state + ' ' + trimmedTextOf(company["ZIP"]);
-    const QString extension = trimmedTextOf(company["PLUS4"]);
-    return (extension.isEmpty() ? place : place + '-' + extension).trimmed();
-}
-
 void addCompanies(ReportRun& run, ReportLines& lines)
 {
     OpenTable open = openTable(run.session(), "MAIN.mdb", "COLIST");
@@ -43,7 +32,7 @@ void addCompanies(ReportRun& run, ReportLines& lines)
          more = company.MoveNext()) {
         QStringList address;
         for (const QString& line : {trimmedTextOf(company["ADDRESS1"]),
-                                    trimmedTextOf(company["ADDRESS2"]), placeOf(company)})
+                                    trimmedTextOf(company["ADDRESS2"]), placeLine(company)})
             if (!line.isEmpty())
                 address.append(line);
         if (!lines.add({.cells = {company["CONO"].value(), trimmedTextOf(company["CONAME"]),

@@ -195,18 +195,19 @@ std::vector<EntryField> addressFields(const AddressBook& book, bool upperCase)
 
 DataSpec dataScreen(const AddressBook& book, const Session& session)
 {
-    return {.name = book.dataScreen,
-            .caption = book.names,
-            .table = book.table,
-            .index = book.byName,
-            .sections = {{.fields = addressFields(
-                              book, siteSwitch(session.JobSitePath, "VEXUCASEONLY"))}},
-            .tag = {.field = book.tagField, .hasSiteNumber = true},
-            .lock = book.table,
-            .rules = std::make_shared<AddressRules>(book),
-            .deleteQuestion = [](storage::Recordset&) {
-                return confirmDelete("Confirm Delete.", "OK to Delete?");
-            }};
+    return {
+        .name = book.dataScreen,
+        .caption = book.names,
+        .table = book.table,
+        .index = book.byName,
+        .sections = {{.fields =
+                          addressFields(book, siteSwitch(session.JobSitePath, "VEXUCASEONLY"))}},
+        .tag = {.field = book.tagField, .hasSiteNumber = true},
+        .lock = book.table,
+        .rules = std::make_shared<AddressRules>(book),
+        .deleteQuestion =
+            [](storage::Recordset&) { return confirmDelete("Confirm Delete.", "OK to Delete?"); },
+        .viewRefusal = "Changes Not Allowed When Viewing"};
 }
 
 // ---- the list

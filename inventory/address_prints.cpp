@@ -14,17 +14,6 @@ OpenTable openBook(const AddressBook& book, const ReportRun& run)
     return table;
 }
 
-QString cityLine(const storage::Recordset& rows)
-{
-    QString line = trimmedTextOf(rows["CITY"]);
-    const QString state = trimmedTextOf(rows["State"]);
-    const QString plus4 = trimmedTextOf(rows["PLUS4"]);
-    if (!state.isEmpty())
-        line += (line.isEmpty() ? "" : ", ") + state;
-    line += "  " + trimmedTextOf(rows["ZIP"]);
-    return (plus4.isEmpty() ? line : line + '-' + plus4).trimmed();
-}
-
 QString addressLines(const storage::Recordset& rows, const QString& separator)
 {
     QStringList lines = {trimmedTextOf(rows["ADDRESS1"]), trimmedTextOf(rows["ADDRESS2"])};
@@ -37,7 +26,7 @@ std::vector<SheetLine> sheetOf(const AddressBook& book, const storage::Recordset
     std::vector<SheetLine> lines = {{book.name + " Number:", trimmedTextOf(rows[book.number])},
                                     {book.name + " Name:", trimmedTextOf(rows[book.nameField])},
                                     {"Address:", addressLines(rows, "\n")},
-                                    {"City/State/Zip:", cityLine(rows)},
+                                    {"City/State/Zip:", placeLine(rows)},
                                     {"Phone:", trimmedTextOf(rows["PHONE"])},
                                     {"Fax:", trimmedTextOf(rows["FAX"])},
                                     {"Contact:", trimmedTextOf(rows["CONTACT"])}};
@@ -90,10 +79,10 @@ void walkList(const AddressBook& book, ReportRun& run, ReportLines& lines)
     const storage::Recordset& rows = table.rows;
     run.expectRows(rows.RecordCount());
     for (bool more = table.rows.MoveFirst(); more; more = table.rows.MoveNext())
-        if (!lines.add(
-                {.cells = {trimmedTextOf(rows[book.number]), trimmedTextOf(rows[book.nameField]),
-                           addressLines(rows, ", "), cityLine(rows), trimmedTextOf(rows["CONTACT"]),
-                           trimmedTextOf(rows["PHONE"]), trimmedTextOf(rows["FAX"])}}))
+        if (!lines.add({.cells = {trimmedTextOf(rows[book.number]),
+                                  trimmedTextOf(rows[book.nameField]), addressLines(rows, ", "),
+                                  placeLine(rows), trimmedTextOf(rows["CONTACT"]),
+                                  trimmedTextOf(rows["PHONE"]), trimmedTextOf(rows["FAX"])}}))
             return;
 }
 

@@ -116,7 +116,7 @@ bool DataSession::update()
     if (!m_isLoaded)
         return false;
     if (m_mode == "V") {
-        showCritical("Changes Not Allowed", "Changes Not Allowed When Viewing.");
+        showCritical("Changes Not Allowed", m_spec.viewRefusal);
         return false;
     }
     if (m_mode == "D")

@@ -245,7 +245,7 @@ void DataWindow::fieldEntered(int at)
         return;
     Q_UNUSED(at)
     m_isTelling = true;
-    showCritical("Changes Not Allowed", "Changes Not Allowed When Viewing.");
+    showCritical("Changes Not Allowed", m_session.spec().viewRefusal);
     m_cancel->setFocus(Qt::OtherFocusReason);
     m_isTelling = false;
 }

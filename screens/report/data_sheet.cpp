@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "core/keyed_access.h"
 #include "screens/report/report_page.h"
 
 namespace {
@@ -127,4 +128,15 @@ bool DataSheets::add(const std::vector<SheetLine>& lines)
         draw(line);
     }
     return m_run.proceed();
+}
+
+QString placeLine(const storage::Recordset& rows)
+{
+    QString place = trimmedTextOf(rows["CITY"]);
+    const QString state = trimmedTextOf(rows["State"]);
+    const QString extension = trimmedTextOf(rows["PLUS4"]);
+    if (!place.isEmpty() && !state.isEmpty())
+        place += ", ";
+    place += state + ' ' + trimmedTextOf(rows["ZIP"]);
+    return (extension.isEmpty() ? place : place + '-' + extension).trimmed();
 }

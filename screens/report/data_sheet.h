@@ -2,6 +2,7 @@
 // page, or where several share one the next part of it that has the room.
 #pragma once
 
+#include "core/storage/workspace.h"
 #include "screens/report/report_run.h"
 
 struct SheetLine
@@ -49,3 +50,6 @@ private:
     bool m_isPageBegun = false;
     int m_y = 0;
 };
+
+// City, state and zip code of an address record in one line, such as "Reno, NV 89501-0142".
+QString placeLine(const storage::Recordset& rows);

@@ -115,6 +115,9 @@ TEST_F(AddressBooks, HoldTheLockWhileAScreenIsOpenAndFollowItBack)
     EXPECT_EQ(locks(), 0) << "also when the window is taken down";
     list.openDetail("V");
     EXPECT_EQ(locks(), 0);
+    opened->show();
+    user.expect("Changes Not Allowed", "Changes Not Allowed When Viewing");
+    press(*opened, "cmdUpdate");
     list.remove();
     EXPECT_EQ(locks(), 1);
     user.expect("Confirm Delete.", "OK to Delete?");
