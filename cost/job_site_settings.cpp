@@ -237,12 +237,12 @@ DataSection menuSection()
                        text("txtPROJNAME", "PROJNAME", "Project Name:"),
                        text("txtSITETYPE", "SITETYPE", "Site Type:"), heading("Main Menu Options "),
                        box("ckbMENUOPTMAS200DL", "MENUOPTMAS200DL", "MAS 200 Downloads"),
-                       box("ckbMENUOPTORACLEDL", "MENUOPTORACLEDL", "Oracle Download"),
-                       box("ckbMENUOPTGPDL", "MENUOPTGPDL", "GP Download"),
-                       box("ckbMENUOPTECMSDL", "MENUOPTECMSDL", "ECMS Download"),
-                       box("ckbMENUOPTSPRDL", "MENUOPTSPRDL", "SPR Download"),
-                       box("ckbMENUOPTPTDL", "MENUOPTPTDL", "PT Download"),
-                       box("ckbMENUOPTWORKORDERS", "MENUOPTWORKORDERS", "Work Orders")}};
+                       box("ckbMENUOPTORACLEDL", "MENUOPTORACLEDL", "MENUOPTORACLEDL"),
+                       box("ckbMENUOPTGPDL", "MENUOPTGPDL", "MENUOPTGPDL"),
+                       box("ckbMENUOPTECMSDL", "MENUOPTECMSDL", "MENUOPTECMSDL"),
+                       box("ckbMENUOPTSPRDL", "MENUOPTSPRDL", "MENUOPTSPRDL"),
+                       box("ckbMENUOPTPTDL", "MENUOPTPTDL", "MENUOPTPTDL"),
+                       box("ckbMENUOPTWORKORDERS", "MENUOPTWORKORDERS", "MENUOPTWORKORDERS")}};
 }
 
 DataSection soundSection()

@@ -39,9 +39,14 @@ DataSession::DataSession(DataSpec spec, Session session, DataRecord record)
 {
 }
 
+// Of a window that is taken down without having been closed.
 DataSession::~DataSession()
 {
-    close();
+    try {
+        close();
+    } catch (const StorageError&) {
+        // Nobody is left to tell; the lock shows that the record was not given up.
+    }
 }
 
 bool DataSession::open()
