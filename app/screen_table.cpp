@@ -1,11 +1,13 @@
 #include "app/screen_table.h"
 
 #include "cost/companies.h"
+#include "cost/cost_codes.h"
 #include "cost/gl_codes.h"
 #include "cost/invoice_codes.h"
 #include "cost/job_defaults.h"
 #include "cost/job_site_settings.h"
 #include "cost/jobs.h"
+#include "cost/target_list_screen.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
 #include "purchasing/code_lists.h"
@@ -44,6 +46,7 @@ constexpr ScreenFactory screens[] = {
     {"frmCCBQSHIP01", browse<frmCCBQSHIP01>},
     {"frmDBPBrowse", browse<frmDBPBrowse>},
     {"frmNETSET", networkSettings},
+    {"frmPLGCCG01", newCostCodes},
     {"frmVEXGLC01", browse<frmVEXGLC01>},
     {"frmVEXIC01", browse<frmVEXIC01>},
     {"frmVEXILC01", browse<frmVEXILC01>},
@@ -63,6 +66,7 @@ constexpr ScreenFactory screens[] = {
     {"frmZORJOB01", newJobNumbers},
     {"frmZORJS01", browse<frmZORJS01>},
     {"frmZORSYS", newJobSiteSettings},
+    {"frmZORTLCC", browse<frmZORTLCC>},
 };
 
 }  // namespace

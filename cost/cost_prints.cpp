@@ -55,12 +55,6 @@ void walkJobs(const Session& session, int CONO,
             return;
 }
 
-QString companyLine(const Session& session, int CONO)
-{
-    return "Company: " + companyText(CONO) + ' ' +
-           JobDirectory(session.JobSitePath).companyName(CONO).value_or("");
-}
-
 QString groupText(const CostCodeSettings& group)
 {
     if (!group.isDefined())
@@ -137,6 +131,18 @@ ReportPlan jobListPlan(const Session& session, int CONO)
 }
 
 }  // namespace
+
+QString companyLine(const Session& session, int CONO)
+{
+    return "Company: " + companyText(CONO) + ' ' +
+           JobDirectory(session.JobSitePath).companyName(CONO).value_or("");
+}
+
+QString jobLine(const Session& session, int CONO, const QString& JOBNO)
+{
+    return "Job Number: " + JOBNO.trimmed() + ' ' +
+           JobDirectory(session.JobSitePath).jobName(CONO, JOBNO).value_or("");
+}
 
 ReportSpec frmZORCO03()
 {

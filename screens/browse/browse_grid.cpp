@@ -141,6 +141,11 @@ void BrowseGrid::setColumns(const std::vector<GridColumn>& columns)
     refresh();
 }
 
+void BrowseGrid::setHeading(int column, const QString& heading)
+{
+    m_page->setHeading(column, heading);
+}
+
 void BrowseGrid::keepWidths(const UserLayout& layout, const QString& key)
 {
     m_layout = layout;

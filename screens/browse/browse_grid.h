@@ -37,6 +37,7 @@ public:
     ~BrowseGrid() override;
 
     void setColumns(const std::vector<GridColumn>& columns);
+    void setHeading(int column, const QString& heading);
     // Takes the widths that the user gave the columns, and keeps those that he gives them. `key`
     // tells columns of one kind, such as "frmVEXGLC01/columns".
     void keepWidths(const UserLayout& layout, const QString& key);

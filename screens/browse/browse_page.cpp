@@ -33,6 +33,12 @@ void BrowsePage::setColumns(const std::vector<GridColumn>& columns)
     endResetModel();
 }
 
+void BrowsePage::setHeading(int column, const QString& heading)
+{
+    m_columns[static_cast<size_t>(column)].heading = heading;
+    Q_EMIT headerDataChanged(Qt::Horizontal, column + 1, column + 1);
+}
+
 void BrowsePage::setEndTexts(const QString& endOfList, const QString& listIsEmpty)
 {
     m_endOfList = endOfList;

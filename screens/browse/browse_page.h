@@ -11,6 +11,7 @@ public:
     explicit BrowsePage(const BrowseList& list) : m_list(list) {}
 
     void setColumns(const std::vector<GridColumn>& columns);
+    void setHeading(int column, const QString& heading);
     const std::vector<GridColumn>& columns() const { return m_columns; }
     void setEndTexts(const QString& endOfList, const QString& listIsEmpty);
     // The lines of the list have changed.

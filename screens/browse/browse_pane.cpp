@@ -57,6 +57,14 @@ void BrowsePane::load()
     m_fields->prepare();
 }
 
+void BrowsePane::showHeadings()
+{
+    const std::vector<BrowseColumn>& columns = m_session.spec().columns;
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i)
+        if (const auto& headingFor = columns[static_cast<size_t>(i)].headingFor)
+            m_grid->setHeading(i, headingFor(m_session));
+}
+
 void BrowsePane::showState(const QString& emptyText, bool isInHand)
 {
     const bool entering = !m_session.isBrowsing();

@@ -25,6 +25,8 @@ public:
 
     // Once the session is open.
     void load();
+    // Headings that follow the parent.
+    void showHeadings();
     // The rows, and while a record is entered its fields, as the session has them now. `emptyText`
     // stands in an empty list; `isInHand`: the user works in this pane.
     void showState(const QString& emptyText, bool isInHand = true);

@@ -22,7 +22,7 @@ QString nameOf(schema::FieldName field)
 
 void BrowseSession::print()
 {
-    if (!isBrowsing() || !activeRecordTest(false))
+    if (!isBrowsing() || !activeRecordTest(false) || !allowsUpdates())
         return;
     if (m_spec.print.run)
         return m_spec.print.run(*this);

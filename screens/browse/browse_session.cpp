@@ -138,15 +138,19 @@ bool BrowseSession::mayChange() const
     return m_spec.editRight.isEmpty() || dnOK2Access(m_spec.editRight, m_session.UserName, true);
 }
 
-// What stands before every Add, Edit and Delete.
-bool BrowseSession::mayBegin(bool allowed, bool needsRecord)
+bool BrowseSession::allowsUpdates() const
 {
-    if (!isBrowsing() || !allowed || !activeRecordTest(needsRecord) || !mayChange())
-        return false;
     const QString refusal = m_spec.updatesTest ? m_spec.updatesTest(*this) : QString();
     if (!refusal.isEmpty())
         showCritical("Updates Not Allowed.", refusal);
-    return refusal.isEmpty() && (!needsRecord || m_list.goToCurrent());
+    return refusal.isEmpty();
+}
+
+// What stands before every Add, Edit and Delete.
+bool BrowseSession::mayBegin(bool allowed, bool needsRecord)
+{
+    return isBrowsing() && allowed && activeRecordTest(needsRecord) && mayChange() &&
+           allowsUpdates() && (!needsRecord || m_list.goToCurrent());
 }
 
 void BrowseSession::act()
@@ -335,7 +339,7 @@ void BrowseSession::remove()
 
 void BrowseSession::search()
 {
-    if (isBrowsing() && m_spec.search && activeRecordTest(false))
+    if (isBrowsing() && m_spec.search && activeRecordTest(false) && allowsUpdates())
         m_list.show(m_spec.search(*this));
 }
 
@@ -344,6 +348,8 @@ void BrowseSession::run(const BrowseCommand& command)
     if (isBrowsing() == command.inEntryMode)
         return;
     if (command.needsRecord && (!activeRecordTest(true) || !m_list.goToCurrent()))
+        return;
+    if (isBrowsing() && m_hasParent && command.asksUpdatesTest && !allowsUpdates())
         return;
     command.run(*this);
 }

@@ -73,6 +73,10 @@ public:
     // opened.
     bool openDetail(const QString& mode);
     QString captionOf(const BrowseCommand& command) const;
+    QString caption() const
+    {
+        return m_spec.captionFor ? m_spec.captionFor(*this) : m_spec.caption;
+    }
     // This screen's number in the window registry; 0 without a detail screen.
     qint16 winTag() const { return m_winTag; }
     // The screen is in front again: shows what a detail screen that it opened has left.
@@ -95,6 +99,7 @@ public:
 private:
     bool mayChange() const;
     bool activeRecordTest(bool needsRecord);
+    bool allowsUpdates() const;
     bool mayBegin(bool allowed, bool needsRecord);
     bool opensDetail() const { return !m_spec.detail.tagField.isEmpty(); }
     bool takeLock(qint32 tag) const;

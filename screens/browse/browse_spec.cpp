@@ -12,13 +12,15 @@ std::vector<EntryField> entryFieldsOf(const std::vector<BrowseColumn>& columns)
                               .field = column.field,
                               .caption = column.heading,
                               .length = column.length,
+                              .lengthFor = column.lengthFor,
                               .keys = column.keys,
                               .alignment = column.alignment,
                               .choicesFor = column.choicesFor,
                               .tidy = column.tidy,
                               .check = column.check,
                               .search = column.search,
-                              .left = column.left});
+                              .left = column.left,
+                              .hint = column.hint});
     return fields;
 }
 

@@ -35,6 +35,10 @@ struct BrowseColumn
     EntryField::Kind kind = EntryField::Kind::Text;
     std::function<std::vector<EntryChoice>(const Entry&)> choicesFor = {};
     bool isPrinted = true;
+    // The heading, and how many characters the entry takes, where they follow the parent.
+    std::function<QString(const BrowseSession&)> headingFor = {};
+    std::function<int(const Entry&)> lengthFor = {};
+    QString hint = {};  // of the entry field
 };
 
 // Whose rows these are: the user chooses it above the list. None: the whole table.
@@ -66,6 +70,7 @@ struct BrowseCommand
     bool needsRecord = false;
     // A caption that changes, asked anew after each command.
     std::function<QString(const BrowseSession&)> captionFor = {};
+    bool asksUpdatesTest = true;  // false: runs where updates are refused, too
 };
 
 // A screen of its own shows and changes one record: Add, Edit, Delete, Enter and further commands
@@ -115,6 +120,8 @@ struct BrowseSpec
 
     QString name;
     QString caption;
+    // The window's title where it changes, asked anew after each command.
+    std::function<QString(const BrowseSession&)> captionFor = {};
     QString file = "ZORVEX.mdb";  // where it lies tells core/session.h
     QString table;
     QString index;
@@ -137,8 +144,8 @@ struct BrowseSpec
     // Before that question: the text of "Cannot Delete" when others refer to the record, else
     // empty.
     std::function<QString(const BrowseSession&, storage::Recordset&)> deleteTest = {};
-    // Asked at Add, Edit and Delete once there is a parent: the text of "Updates Not Allowed.",
-    // else empty.
+    // Asked at each command but the moves, once there is a parent: the text of "Updates Not
+    // Allowed.", else empty.
     std::function<QString(const BrowseSession&)> updatesTest = {};
     BrowseDetail detail = {};
     // Opens the search window; gives a bookmark or blank.

@@ -208,7 +208,9 @@ void BrowseWindow::takeParent()
         return;
     const std::vector<KeyField>& now = list.list().source().parent;
     const auto same = [](const KeyField& a, const KeyField& b) { return a.key == b.key; };
-    if (list.hasParent() && std::equal(keys.begin(), keys.end(), now.begin(), now.end(), same))
+    // The screen may have gone further into them.
+    if (list.hasParent() && keys.size() <= now.size() &&
+        std::equal(keys.begin(), keys.end(), now.begin(), same))
         return;
     m_parent->save();
     list.setParent(keys);
@@ -259,6 +261,11 @@ void BrowseWindow::showState()
 {
     const bool browsing = session().isBrowsing();
     const bool lacksParent = m_parent && !session(0).hasParent();
+    runCommand([this] {
+        setWindowTitle(session(0).caption());
+        for (const Level& level : m_levels)
+            level.pane->showHeadings();
+    });
     showCommands();
     if (m_parent)
         m_parent->setLocked(!browsing);

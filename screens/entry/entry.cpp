@@ -217,6 +217,8 @@ FieldType Entry::typeOf(int at) const
 
 int Entry::lengthOf(int at) const
 {
+    if (field(at).lengthFor && m_mode != " ")
+        return field(at).lengthFor(*this);
     if (field(at).length > 0)
         return field(at).length;
     constexpr int anyLength = 32767;

@@ -172,6 +172,7 @@ QWidget* EntryControls::control(int at, QWidget* parent)
     control->setObjectName(field.name);
     QString accessible = field.caption;
     control->setAccessibleName(accessible.remove('&'));
+    control->setToolTip(field.hint);
     control->installEventFilter(this);
     if (auto* edit = qobject_cast<QLineEdit*>(control))
         edit->setAlignment(field.alignment | Qt::AlignVCenter);
@@ -258,9 +259,11 @@ void EntryControls::showOne(int at, bool isForTyping)
         label->setText(shownBy(field, m_entry));
     else
         setText(control, m_entry.text(at));
-    if (auto* edit = qobject_cast<QLineEdit*>(control))
+    if (auto* edit = qobject_cast<QLineEdit*>(control)) {
+        if (field.lengthFor)
+            edit->setMaxLength(m_entry.lengthOf(at));
         edit->setReadOnly(!mayType);
-    else if (auto* memo = qobject_cast<QPlainTextEdit*>(control))
+    } else if (auto* memo = qobject_cast<QPlainTextEdit*>(control))
         memo->setReadOnly(!mayType);
     else if (field.kind == Kind::Box || field.kind == Kind::Choice)
         control->setEnabled(mayType);

@@ -35,12 +35,13 @@ struct EntryField
         Heading   // the caption across; no value
     };
     Kind kind = Kind::Text;
-    QString name = {};             // the control's system name
-    schema::FieldName field = {};  // none: it is not written by itself
-    QString caption = {};          // with its key
-    int length = 0;                // characters at most; 0: as the column
-    FieldKeys keys = {};           // a number's come by its column
-    QString format = {};           // a mask in which a number is shown
+    QString name = {};                                // the control's system name
+    schema::FieldName field = {};                     // none: it is not written by itself
+    QString caption = {};                             // with its key
+    int length = 0;                                   // characters at most; 0: as the column
+    std::function<int(const Entry&)> lengthFor = {};  // in place of `length`, asked at each entry
+    FieldKeys keys = {};                              // a number's come by its column
+    QString format = {};                              // a mask in which a number is shown
     Qt::Alignment alignment = Qt::AlignLeft;
     std::vector<EntryChoice> choices = {};
     std::function<std::vector<EntryChoice>(const Entry&)> choicesFor = {};  // in place of `choices`
@@ -60,6 +61,7 @@ struct EntryField
     // does to other fields.
     std::function<void(Entry&)> left = {};
     bool isReadOnly = false;
+    QString hint = {};  // the tool tip
     // Asked anew after each change: false leaves the control dead. None: it lives.
     std::function<bool(const Entry&)> isLive = {};
 };

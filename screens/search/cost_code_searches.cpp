@@ -17,8 +17,10 @@ QString nameOf(schema::FieldName field)
     return QString::fromLatin1(field.text());
 }
 
-QString searchGroup(const CostCodeGroup& group, const QString& path, qint16 CONO,
-                    const QString& JOBNO, const QString& groupName, CostCodeOrder order)
+}  // namespace
+
+QString searchCostCodes(const CostCodeGroup& group, const QString& path, qint16 CONO,
+                        const QString& JOBNO, const QString& groupName, CostCodeOrder order)
 {
     if (dnIsBlank(groupName)) {
         showCritical("Invalid Cost Code", "Cost Code Group '" + group.letterText() +
@@ -46,11 +48,11 @@ QString searchGroup(const CostCodeGroup& group, const QString& path, qint16 CONO
          .keys = {{"CONO", CONO}, {"JOBNO", JOBNO}}});
 }
 
-// The code of the record that was picked; `typed` when none was, " " when none could be.
-QString pickCode(const CostCodeGroup& group, const QString& path, const QString& typed, qint16 CONO,
-                 const QString& JOBNO, const QString& groupName, CostCodeOrder order)
+QString pickCostCode(const CostCodeGroup& group, const QString& path, const QString& typed,
+                     qint16 CONO, const QString& JOBNO, const QString& groupName,
+                     CostCodeOrder order)
 {
-    const QString bookmark = searchGroup(group, path, CONO, JOBNO, groupName, order);
+    const QString bookmark = searchCostCodes(group, path, CONO, JOBNO, groupName, order);
     if (dnIsBlank(groupName))
         return noBookmark;
     if (dnIsBlank(bookmark))
@@ -59,40 +61,38 @@ QString pickCode(const CostCodeGroup& group, const QString& path, const QString&
     return goToFound(codes.rows, bookmark) ? textOf(codes.rows[group.code]) : typed;
 }
 
-}  // namespace
-
 QString zorSearchCCA(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName, CostCodeOrder order)
 {
-    return searchGroup(groupA, path, CONO, JOBNO, groupName, order);
+    return searchCostCodes(groupA, path, CONO, JOBNO, groupName, order);
 }
 
 QString zorSearchCCB(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName)
 {
-    return searchGroup(groupB, path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+    return searchCostCodes(groupB, path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }
 
 QString zorSearchCCC(const QString& path, qint16 CONO, const QString& JOBNO,
                      const QString& groupName)
 {
-    return searchGroup(groupC, path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+    return searchCostCodes(groupC, path, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }
 
 QString zorCCASearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
                      const QString& groupName, CostCodeOrder order)
 {
-    return pickCode(groupA, path, typed, CONO, JOBNO, groupName, order);
+    return pickCostCode(groupA, path, typed, CONO, JOBNO, groupName, order);
 }
 
 QString zorCCBSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
                      const QString& groupName)
 {
-    return pickCode(groupB, path, typed, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+    return pickCostCode(groupB, path, typed, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }
 
 QString zorCCCSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
                      const QString& groupName)
 {
-    return pickCode(groupC, path, typed, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
+    return pickCostCode(groupC, path, typed, CONO, JOBNO, groupName, CostCodeOrder::ByDescription);
 }

@@ -2,7 +2,7 @@
 // name of the job's own, such as Phase; `path` is the folder of the job site.
 #pragma once
 
-#include <QString>
+#include "core/cost_code_groups.h"
 
 // Which of the two columns stands first and is searched.
 enum class CostCodeOrder { ByCode, ByDescription };
@@ -24,3 +24,10 @@ QString zorCCBSearch(const QString& path, const QString& typed, qint16 CONO, con
                      const QString& groupName);
 QString zorCCCSearch(const QString& path, const QString& typed, qint16 CONO, const QString& JOBNO,
                      const QString& groupName);
+
+// Both for whatever group: the record, and the code for an entry field.
+QString searchCostCodes(const CostCodeGroup& group, const QString& path, qint16 CONO,
+                        const QString& JOBNO, const QString& groupName, CostCodeOrder order);
+QString pickCostCode(const CostCodeGroup& group, const QString& path, const QString& typed,
+                     qint16 CONO, const QString& JOBNO, const QString& groupName,
+                     CostCodeOrder order);
