@@ -111,7 +111,7 @@ BrowseColumn codeColumn(const CostCodeGroup& group)
     return {.field = group.code,
             .length = longestCode,
             .heading = "Cost Code",
-            .width = 1700,
+            .width = 1400,
             .entry = "txtCOSTCODE",
             .keys = {.upperCase = true},
             .check = [group](const Entry& entry) { return checkCode(entry, group); },
@@ -149,7 +149,7 @@ std::vector<BrowseColumn> middleColumns(bool isLabour)
     return {{.field = "GLCODE",
              .length = 10,
              .heading = " G/L Code",
-             .width = 1300,
+             .width = 1100,
              .entry = "txtSTAFFULC",
              .keys = {.upperCase = true},
              .check = checkGLCode,
@@ -170,7 +170,7 @@ std::vector<BrowseColumn> costCodeColumns(const CostCodeGroup& group, const Cost
         {.field = group.description,
          .length = 30,
          .heading = "Description",
-         .width = 3200,
+         .width = 2900,
          .entry = "txtDESC",
          .check = required(group.description, "Description is Empty.")},
         clientColumn(group)};
@@ -188,15 +188,15 @@ std::vector<BrowseColumn> costCodeColumns(const CostCodeGroup& group, const Cost
     if (!wanted.hasFurther)
         return columns;
     const auto further = [&columns](schema::FieldName field, int length, const QString& heading,
-                                    const QString& entry) {
+                                    int width, const QString& entry) {
         columns.push_back(
-            {.field = field, .length = length, .heading = heading, .width = 1300, .entry = entry});
+            {.field = field, .length = length, .heading = heading, .width = width, .entry = entry});
     };
-    further("APCODE", 12, "A/P Code", "txtAPCODE");
-    further("POLIREF", 0, "PO LI Ref", "txtPOLIREF");
-    further("REVIEWER", 0, "Reviewer", "txtREVIEWER");
-    further("PLANTCODE", 0, "Plant", "txtPLANTCODE");
-    further("Location", 0, "Location", "txtLocation");
+    further("APCODE", 12, "A/P Code", 1200, "txtAPCODE");
+    further("POLIREF", 0, "PO LI Ref", 1100, "txtPOLIREF");
+    further("REVIEWER", 0, "Reviewer", 1100, "txtREVIEWER");
+    further("PLANTCODE", 0, "Plant", 900, "txtPLANTCODE");
+    further("Location", 0, "Location", 1200, "txtLocation");
     return columns;
 }
 

@@ -140,13 +140,18 @@ void clearTags(BrowseSession& list)
     list.list().rebuild();
 }
 
-BrowseCommand markCommand(const QString& name, const QString& caption, TargetMark mark, bool on)
+BrowseCommand markCommand(const QString& name, const QString& caption, Qt::Key key, TargetMark mark,
+                          bool on)
 {
-    return {.name = name, .caption = caption, .run = [mark, on](BrowseSession& list) {
-                markTaggedTargets(list.session().JobSitePath, companyOf(list), jobOf(list), mark,
-                                  on);
-                list.list().rebuild();
-            }};
+    return {.name = name,
+            .caption = caption,
+            .run =
+                [mark, on](BrowseSession& list) {
+                    markTaggedTargets(list.session().JobSitePath, companyOf(list), jobOf(list),
+                                      mark, on);
+                    list.list().rebuild();
+                },
+            .key = key};
 }
 
 BrowseColumn yesColumn(schema::FieldName field, const QString& heading)
@@ -221,10 +226,14 @@ BrowseSpec frmZORTLCC()
               .key = Qt::Key_T,
               .needsRecord = true},
              {.name = "cmdClearTags", .caption = "&Clear Tags", .run = clearTags, .key = Qt::Key_C},
-             markCommand("cmdTurnOnPrintMe", "Turn On Print &Me", TargetMark::Print, true),
-             markCommand("cmdTurnOffPrintMe", "Turn Off P&rint Me", TargetMark::Print, false),
-             markCommand("cmdTurnOnArchived", "Turn On &Inactive", TargetMark::Archived, true),
-             markCommand("cmdTurnOffArchived", "Turn Off Inacti&ve", TargetMark::Archived, false)},
+             markCommand("cmdTurnOnPrintMe", "Turn On Print &Me", Qt::Key_M, TargetMark::Print,
+                         true),
+             markCommand("cmdTurnOffPrintMe", "Turn Off P&rint Me", Qt::Key_R, TargetMark::Print,
+                         false),
+             markCommand("cmdTurnOnArchived", "Turn On &Inactive", Qt::Key_I, TargetMark::Archived,
+                         true),
+             markCommand("cmdTurnOffArchived", "Turn Off Inacti&ve", Qt::Key_V,
+                         TargetMark::Archived, false)},
         .parentChosen = [](BrowseSession& list) { browseGroup(list, costCodeGroups.front()); },
     };
 }

@@ -136,7 +136,8 @@ void BrowseGrid::setColumns(const std::vector<GridColumn>& columns)
         headings->resizeSection(i + 1, width);
         total += width;
     }
-    m_view->setMinimumWidth(std::min(total + 4, 900));
+    m_wishedWidth = total + 4;
+    m_view->setMinimumWidth(std::min(m_wishedWidth, 900));
     m_settingWidths = false;
     refresh();
 }
@@ -244,12 +245,25 @@ void BrowseGrid::refresh()
     m_positionDue->start();
 }
 
+void BrowseGrid::bringIntoView(int column)
+{
+    const QHeaderView* headings = m_view->horizontalHeader();
+    const int left = headings->sectionPosition(column + 1);
+    const int right = left + headings->sectionSize(column + 1);
+    const int offset = headings->offset();
+    if (left < offset)
+        m_view->horizontalScrollBar()->setValue(left);
+    else if (right > offset + m_view->viewport()->width())
+        m_view->horizontalScrollBar()->setValue(right - m_view->viewport()->width());
+}
+
 QSize BrowseGrid::sizeHint() const
 {
     constexpr int rows = 14;
     const int height = m_view->verticalHeader()->defaultSectionSize() * rows +
                        m_view->horizontalHeader()->sizeHint().height() + 2 * m_view->frameWidth();
-    return {QWidget::sizeHint().width(), height};
+    const int width = m_wishedWidth + m_position->sizeHint().width();
+    return {std::max(QWidget::sizeHint().width(), width), height};
 }
 
 // What stands in place of a record has the width of all columns.

@@ -70,6 +70,8 @@ public:
 
     QTableView* view() const { return m_view; }
     void takeFocus();
+    // Scrolls sideways as far as the column needs it.
+    void bringIntoView(int column);
     // Where a cell lies in `view()->viewport()`; fields are laid over it there.
     QRect cellRect(int row, int column) const;
 
@@ -104,5 +106,6 @@ private:
     bool m_actsOnClick = true;
     bool m_settingWidths = false;
     int m_messageRow = -1;
+    int m_wishedWidth = 0;  // of all columns
     int m_wheel = 0;  // eighths of a degree not used up
 };

@@ -29,6 +29,10 @@ BrowsePane::BrowsePane(BrowseSession& session, const UserLayout& layout, const Q
         showErrors();
         Q_EMIT fieldLeft();
     });
+    connect(m_fields, &EntryControls::entered, this, [this](int at) {
+        m_grid->bringIntoView(m_columnOf[static_cast<size_t>(at)]);
+        placeFields();
+    });
     buildFields();
 }
 

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "cost/cost_codes.h"
 #include "screens/report/report_run.h"
 #include "tests/support/page_text.h"
 #include "tests/support/scripted_messages.h"
@@ -111,6 +112,36 @@ TEST_F(CostPrints, OneSheetNeedsAJob)
                 "Highlight it in the List of Job Numbers.");
     run.begin(0);
     EXPECT_EQ(run.state(), ReportRun::State::Idle);
+}
+
+TEST_F(CostPrints, CostCodesStandUnderTheirJobAndInTheOrderOfTheirStoredForm)
+{
+    site.emptyTable("MAIN.mdb", "CCALIST");
+    const auto addCode = [this](const char* JOBNO, const char* code, const char* description) {
+        site.addRow("MAIN.mdb", "CCALIST",
+                    {{"CONO", 7}, {"JOBNO", JOBNO}, {"COSTCODEA", code}, {"DESCA", description}});
+    };
+    addCode("    1001", "  12", "Roof");
+    addCode("    1001", "   2", "Walls");
+    addCode("    1002", "   3", "Elsewhere");
+    ReportRun run(frmPLGCCG02(costCodeGroups[0], 7, "    1001", "  12"), session);
+    run.begin(0);
+    QStringList lines = allLines(run);
+    EXPECT_TRUE(lines.contains("Job Number: 1001 Yard"));
+    EXPECT_TRUE(lines.contains("Group A: Phase"));
+    const QString text = lines.join('\n');
+    EXPECT_LT(text.indexOf("Walls"), text.indexOf("Roof"));
+    EXPECT_FALSE(text.contains("Elsewhere"));
+    run.begin(1);
+    lines = allLines(run);
+    EXPECT_TRUE(lines.join('\n').contains("Roof"));
+    EXPECT_FALSE(lines.join('\n').contains("Walls"));
+
+    ReportRun onNone(frmPLGCCG02(costCodeGroups[0], 7, "    1001", " "), session);
+    user.expect("No Current Cost Code",
+                "To Print a Data Sheet for One Cost Code\n"
+                "Highlight it in the List of Cost Codes.");
+    onNone.begin(1);
 }
 
 }  // namespace
