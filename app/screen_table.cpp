@@ -5,8 +5,10 @@
 #include "cost/gl_codes.h"
 #include "cost/invoice_codes.h"
 #include "cost/job_defaults.h"
+#include "cost/job_deletion_screen.h"
 #include "cost/job_site_settings.h"
 #include "cost/jobs.h"
+#include "cost/super_filter_screens.h"
 #include "cost/target_list_screen.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
@@ -63,10 +65,12 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXVEN01", browse<frmVEXVEN01>},
     {"frmVEXWHODIDIT01", browse<frmVEXWHODIDIT01>},
     {"frmZORCO01", browse<frmZORCO01>},
+    {"frmZORDELJOBNO", newJobDeletion},
     {"frmZORJOB01", newJobNumbers},
     {"frmZORJS01", browse<frmZORJS01>},
     {"frmZORSYS", newJobSiteSettings},
     {"frmZORTLCC", browse<frmZORTLCC>},
+    {"frmZORUDS01", browse<frmZORUDS01>},
 };
 
 }  // namespace

@@ -10,6 +10,9 @@
 
 #include "core/storage/workspace.h"
 
+// In UDSLIST: the letter of each level's cost code group.
+inline constexpr std::array<schema::FieldName, 3> udsGroupFields = {"CCGL1", "CCGL2", "CCGL3"};
+
 // The nodes of all levels, each along its index of owner and code.
 struct UdsTables
 {

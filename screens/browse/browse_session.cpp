@@ -391,6 +391,8 @@ bool BrowseSession::openDetail(const QString& mode)
 
 void BrowseSession::comeToFront()
 {
+    if (m_spec.readsAnewInFront && isBrowsing() && m_list.isOpen())
+        m_list.rebuild();
     if (!m_openedDetail || !isBrowsing() ||
         dnGetWINACTION(m_session.UserSettingsPath, m_winTag) != 1)
         return;
