@@ -96,6 +96,7 @@ struct Filter
 {
     int CONO = 0;
     QString JOBNO;
+    QString text;  // code and name
     std::vector<Level> levels;
 };
 
@@ -108,6 +109,8 @@ Filter readFilter(const Session& session, qint32 UDSTAG)
     if (isThere) {
         filter.CONO = intOf(open.rows["CONO"]);
         filter.JOBNO = textOf(open.rows["JOBNO"]);
+        filter.text =
+            trimmedTextOf(open.rows["UDSCODE"]) + ' ' + trimmedTextOf(open.rows["UDSNAME"]);
     }
     const auto job = costCodeSettingsOf(session.JobSitePath, filter.CONO, filter.JOBNO);
     for (const schema::FieldName field : udsGroupFields) {
@@ -211,6 +214,7 @@ BrowseSpec levelSpec(const Filter& filter, const Level& level)
         .deleteQuestion = askToDelete("Level " + level.numberText() + " Cost Code:", {"COSTCODE"},
                                       " ", " and All Lower Level Items?"),
     };
+    spec.status = [text = filter.text](const BrowseSession&) { return "SCF Code: " + text; };
     if (level.group)
         spec.besides = {{"MAIN.mdb", level.group->table}};
     return spec;
