@@ -218,6 +218,20 @@ QString termsCodeOf(const BrowseSession& list, storage::Recordset& rows)
                                                          : QString("?");
 }
 
+// The record by its number, which is one of a kind, where a damaged site may have a tag twice.
+DataRecord recordInHand(const AddressBook& book, BrowseSession& list, const QString& mode,
+                        qint32 tag, qint16 winTag)
+{
+    DataRecord record{.mode = mode, .winTag = winTag, .tag = tag};
+    if (mode == "A")
+        return record;
+    const storage::Value number = list.list().rows()[book.number].value();
+    const bool hasNumber = !dnIsBlank(number.toString());
+    record.index = hasNumber ? book.byNumber : book.tagField;
+    record.keys = {hasNumber ? KeyField{book.number, number} : KeyField{book.tag, tag}};
+    return record;
+}
+
 BrowseSpec listScreen(const AddressBook& book)
 {
     BrowseSpec spec = {
@@ -238,11 +252,7 @@ BrowseSpec listScreen(const AddressBook& book)
                        [&book](BrowseSession& list, const QString& mode, qint32 tag,
                                qint16 winTag) {
                            return openDataScreen(dataScreen(book, list.session()), list.session(),
-                                                 {.mode = mode,
-                                                  .index = book.tagField,
-                                                  .keys = {{book.tag, tag}},
-                                                  .winTag = winTag,
-                                                  .tag = tag});
+                                                 recordInHand(book, list, mode, tag, winTag));
                        },
                    .lock = book.table,
                    .hasView = true,
