@@ -257,7 +257,8 @@ BrowseSpec frmPLGCCG01(const CostCodeGroup& group, const CostCodeColumns& column
         .rules = std::make_shared<CostCodeRules>(group),
         .deleteQuestion = askToDelete("Cost Code", {group.code, group.description}),
         .updatesTest = [group](const BrowseSession& list) -> QString {
-            if (groupOfJob(list, group).isDefined())
+            const CostCodeSettings settings = groupOfJob(list, group);
+            if (settings.isDefined() && settings.size > 0)
                 return {};
             return group.title() + " Cost Codes Are Not Properly Defined for Job Number: " +
                    list.parentKey("JOBNO").toString().trimmed();

@@ -198,7 +198,7 @@ std::vector<EntryField> replyFields()
         {.name = "txtREPLYTO", .field = "REPLYTO", .caption = "&Reply To:"},
         {.name = "txtREPLYBY", .field = "REPLYBY", .caption = "Repl&y By:"},
         phoneField("mebREPLYPHONE", "REPLYPHONE", "&Phone:"),
-        phoneField("mebREPLYFAX", "REPLYFAX", "Fa&x:"),
+        phoneField("mebREPLYFAX", "REPLYFAX", "F&ax:"),
     };
 }
 

@@ -219,7 +219,7 @@ void EntryControls::prepare()
         const Kind kind = m_entry.field(i).kind;
         if (kind == Kind::Memo)
             keys.keepEnter = true;
-        if (kind == Kind::Text || kind == Kind::Memo || kind == Kind::Date)
+        if (kind != Kind::Shown && kind != Kind::Picture && kind != Kind::Heading)
             setFieldKeys(*made, keys);
     }
 }

@@ -62,6 +62,27 @@ TEST_F(JobWindows, LogoShowsAsSoonAsItsNameIsAnImage)
     EXPECT_EQ(shown(""), "");
 }
 
+TEST_F(JobWindows, EnterGoesOnFromEveryKindOfField)
+{
+    const DataRecord job{
+        .mode = "E", .index = "JOBLIST", .keys = {{"CONO", 1}, {"JOBNO", "    1001"}}};
+    {
+        DataWindow window(frmZORJOB02("1001 Yard"), session, job);
+        show(window);
+        for (const char* next : {"cboCCTYPEA", "txtCCSIZEA"}) {
+            key(Qt::Key_Return);
+            EXPECT_EQ(QApplication::focusWidget()->objectName(), next);
+        }
+    }
+    DataWindow window(frmZORJOB03("1001 Yard"), session, job);
+    show(window);
+    auto& box = control<QCheckBox>(window, "ckbCKBURDEN");
+    box.setFocus();
+    key(Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "ckbVERIFYCC");
+    EXPECT_FALSE(box.isChecked());
+}
+
 TEST_F(JobWindows, LimitLivesWhileItIsCheckedAndEscapeLeavesWithoutAWord)
 {
     const DataRecord job{
