@@ -173,7 +173,7 @@ std::vector<EntryField> addressFields(const AddressBook& book, bool upperCase)
         {.name = "txtPLUS4", .field = "PLUS4", .caption = "Plus &4:"},
         {.name = "txtPHONE", .field = "PHONE", .caption = "&Phone:", .tidy = dnPhoneFormat},
         {.name = "txtFAX", .field = "FAX", .caption = "&Fax:", .tidy = dnPhoneFormat},
-        {.name = "txtCONTACT", .field = "CONTACT", .caption = "&Contact:"}};
+        {.name = "txtCONTACT", .field = "CONTACT", .caption = "C&ontact:"}};
     if (book.hasTerms)
         fields.push_back({.name = "txtEMAIL", .field = "EMAIL", .caption = "Ema&il:"});
     fields.push_back({.name = "txtREMARKS", .field = "REMARKS", .caption = "&Remarks:"});
