@@ -56,7 +56,8 @@ public:
     bool begin(Entry& entry) override
     {
         for (const schema::FieldName phone : {schema::FieldName("VOICE"), {"FAX"}})
-            entry.setText(phone, maskedPhone(entry[phone]));
+            if (entry.isBlank(phone))
+                entry.setText(phone, maskedPhone({}));
         return true;
     }
 

@@ -96,7 +96,8 @@ public:
     bool begin(Entry& entry) override
     {
         for (const schema::FieldName phone : {schema::FieldName("REPLYPHONE"), {"REPLYFAX"}})
-            entry.setText(phone, maskedPhone(entry[phone]));
+            if (entry.isBlank(phone))
+                entry.setText(phone, maskedPhone({}));
         // What was never chosen is none.
         for (const schema::FieldName item : items)
             if (entry.number(item) < 1 || entry.number(item) > double(std::size(itemTexts)))

@@ -109,16 +109,18 @@ public:
     {
         if (!m_book.hasTerms || entry.isAdding())
             return true;
+        // Tag 0 is none, even where a counter failed and a code was stored with it.
+        const int tag = intOf(entry.rows()["TERMSCODETAG"]);
         OpenTable terms = openTable(entry.session(), "ZORVEX.mdb", "TERMSCODES");
         terms.rows.Index("TERMSCODETAG");
-        if (terms.rows.Seek("=", entry.rows()["TERMSCODETAG"].value()))
+        if (tag != 0 && terms.rows.Seek("=", tag))
             entry.setNamed(termsField, trimmedTextOf(terms.rows["TERMSCODE"]));
         return true;
     }
 
     void complete(const Entry& entry, storage::Recordset& rows) override
     {
-        rows[m_book.number] = entry[m_book.number].trimmed();
+        rows[m_book.number] = entry[m_book.number].trimmed().toUpper();
         if (!m_book.hasTerms)
             return;
         const QString code = entry.named(termsField);

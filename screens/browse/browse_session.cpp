@@ -1,5 +1,7 @@
 #include "screens/browse/browse_session.h"
 
+#include <QScopeGuard>
+
 #include "core/number_format.h"
 #include "core/storage/storage_error.h"
 #include "core/window_registry.h"
@@ -383,8 +385,14 @@ bool BrowseSession::openDetail(const QString& mode)
     const qint32 tag = isNew ? 0 : intOf(m_list.rows().fieldNamed(m_spec.detail.tagField));
     if (m_spec.detail.lockedModes.contains(mode) && !takeLock(tag))
         return false;
+    // The screen gives the lock up; one that fails to come into being cannot.
+    auto unlock = qScopeGuard([&] {
+        if (!m_spec.detail.lock.isEmpty() && m_spec.detail.lockedModes.contains(mode))
+            dnRecordUnlock(tag, m_spec.detail.lock);
+    });
     dnSetHOTTAG(m_session.UserSettingsPath, m_winTag, tag);
     const bool opened = m_spec.detail.open(*this, mode, tag, m_winTag);
+    unlock.dismiss();
     m_openedDetail = m_openedDetail || opened;
     return opened;
 }

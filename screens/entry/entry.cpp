@@ -233,10 +233,13 @@ int Entry::lengthOf(int at) const
 QString Entry::refusalOf(int at)
 {
     const EntryField& checked = field(at);
-    if (checked.tidy)
-        setText(at, checked.tidy(m_texts[at]));
-    if (checked.kind == Kind::Date && !dnIsBlank(dnFixDate(m_texts[at])))
-        setText(at, dnFixDate(m_texts[at]));
+    // What is stored and was not touched stays as it is.
+    if (isAdding() || m_texts[at] != m_textsBefore[at]) {
+        if (checked.tidy)
+            m_texts[at] = checked.tidy(m_texts[at]);
+        if (checked.kind == Kind::Date && !dnIsBlank(dnFixDate(m_texts[at])))
+            m_texts[at] = dnFixDate(m_texts[at]);
+    }
     const QString refusal = checked.check ? checked.check(*this) : QString();
     if (!refusal.isEmpty() || tableField(at) < 0)
         return refusal;

@@ -48,7 +48,7 @@ struct EntryField
     std::function<QString(const Entry&)> shows = {};
     // What a new entry begins with.
     QString initial = {};
-    // What a typed text becomes when the field is left.
+    // What a typed text becomes when the field is left; a stored one that is not touched stays.
     std::function<QString(const QString&)> tidy = {};
     EntryCheck check = {};
     // Opened by "?", "/" or the button beside the field; gives the text chosen, blank for none.

@@ -58,7 +58,8 @@ void JobDeletion::fillSite() const
 {
     int tag = 0;
     for (const QString& number : {job, other}) {
-        for (const char* table : {"TCLIST", "CCALIST", "UALIST", "JOBLIST"})
+        for (const char* table :
+             {"TCLIST", "CCALIST", "CCBLIST", "CCCLIST", "CCCLIST", "UALIST", "JOBLIST"})
             addPair("MAIN.mdb", table, number);
         for (const char* table : {"JOB_NO_DEFAULTS", "INVCODES"})
             addPair("ZORVEX.mdb", table, number);
@@ -96,8 +97,8 @@ TEST_F(JobDeletion, TakesAllThatHangsOnTheJobAndTellsHowMany)
     EXPECT_EQ(report.join('\n'),
               "Time Card Items: 1 Record Deleted.\n"
               "Cost Code: Group A Cost Code: 1 Record Deleted.\n"
-              "Cost Code: Group B Cost Code: No Items Found\n"
-              "Cost Code: Group C Cost Code: No Items Found\n"
+              "Cost Code: Group B Cost Code: 1 Record Deleted.\n"
+              "Cost Code: Group C Cost Code: 2 Records Deleted.\n"
               "Position Codes: 1 Record Deleted.\n"
               "Class Codes: 1 Record Deleted.\n"
               "Class Codes Rates by Date: 1 Record Deleted.\n"
@@ -127,8 +128,22 @@ TEST_F(JobDeletion, TakesAllThatHangsOnTheJobAndTellsHowMany)
     EXPECT_EQ(rows("MAIN.mdb", "CCRATES", "CCTAG"), QStringList{"12"});
     EXPECT_EQ(rows("ZORBRQ.mdb", "SCRDETAIL", "SCDTAG"), QStringList{"2"});
     EXPECT_EQ(rows("MAIN.mdb", "JOBLIST", "JOBNO"), QStringList{other});
+    EXPECT_EQ(rows("MAIN.mdb", "CCBLIST", "JOBNO"), QStringList{other});
     EXPECT_EQ(site.rowCount("ZORVEX.mdb", "INVTRANS"), 2) << "the ledger stays";
     EXPECT_EQ(site.rowCount("MAIN.mdb", "UALIST"), 2) << "agreement codes are the labour module's";
+}
+
+TEST_F(JobDeletion, LeavesTheSameNumberOfAnotherCompany)
+{
+    for (const char* table : {"TCLIST", "CCALIST", "CCCLIST", "JOBLIST"})
+        add("MAIN.mdb", table, {{"CONO", 2}, {"JOBNO", job}});
+    add("ZORVEX.mdb", "REQLIST", {{"REQTAG", 5}, {"REQNO", 1}, {"CONO", 2}, {"JOBNO", job}});
+    addLine(50, 5, 0);
+    EXPECT_TRUE(run());
+    for (const QString& line : std::as_const(report))
+        EXPECT_FALSE(line.contains("Deleted")) << qPrintable(line);
+    EXPECT_EQ(site.rowCount("MAIN.mdb", "CCCLIST"), 1);
+    EXPECT_EQ(site.rowCount("ZORVEX.mdb", "PAYMENTS"), 1);
 }
 
 TEST_F(JobDeletion, TellsWhichDatabasesAreMissingAndTakesTheRest)

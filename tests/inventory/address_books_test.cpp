@@ -2,8 +2,10 @@
 #include "inventory/address_books.h"
 
 #include "core/window_registry.h"
+#include "multiuser/record_locks.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_session.h"
+#include "screens/data/data_window.h"
 #include "screens/desktop.h"
 #include "screens/report/report_run.h"
 #include "tests/support/page_text.h"
@@ -98,6 +100,66 @@ TEST_F(AddressBooks, EditAVendorKeepingItsNumberAndDroppingItsTerms)
     EXPECT_EQ(screen.entry()["CONTACT"], "JO") << "upper case only";
     EXPECT_TRUE(screen.update());
     EXPECT_EQ(site.first("ZORVEX.mdb", "VENDORS", "TERMSCODETAG").toInt(), 0);
+}
+
+TEST_F(AddressBooks, EditLeavesWhatIsNotTouchedAsItWasStored)
+{
+    site.addRow("ZORVEX.mdb", "VENDORS",
+                {{"VENTAG", 1},
+                 {"VENNO", "A1"},
+                 {"Name", "Alpha"},
+                 {"CITY", "SLC and so on"},
+                 {"PHONE", "801-555-0142 x12"},
+                 {"TERMSCODETAG", 99}});  // gone
+    DataSession screen(frmVEXVEN02(session), session, vendor("E", 1));
+    ASSERT_TRUE(screen.open());
+    screen.entry().setText("Name", "");
+    user.expect("Cannot Update", "Errors Detected: \n\nVendor Name is Empty.");
+    EXPECT_FALSE(screen.update());
+    EXPECT_EQ(site.first("ZORVEX.mdb", "VENDORS", "Name").toString(), "Alpha");
+    screen.entry().setText("Name", "Alpha Pipe");
+    EXPECT_TRUE(screen.update());
+    EXPECT_EQ(site.first("ZORVEX.mdb", "VENDORS", "Name").toString(), "Alpha Pipe");
+    EXPECT_EQ(site.first("ZORVEX.mdb", "VENDORS", "CITY").toString(), "SLC and so on");
+    EXPECT_EQ(site.first("ZORVEX.mdb", "VENDORS", "PHONE").toString(), "801-555-0142 x12");
+    EXPECT_EQ(site.first("ZORVEX.mdb", "VENDORS", "TERMSCODETAG").toInt(), 0);
+}
+
+TEST_F(AddressBooks, OpenTheRecordUnderTheHighlightWhereATagStandsTwiceOrNotAtAll)
+{
+    addVendor(1, "A1", "Alpha");
+    addVendor(1, "B1", "Beta");
+    addVendor(0, "C1", "Gamma");
+    addVendor(0, "D1", "Delta");
+    BrowseSession list(frmVEXVEN01(), session);
+    list.open();
+    for (const char* number : {"A1", "B1", "C1", "D1"}) {
+        list.openDetail("V");
+        ASSERT_TRUE(opened);
+        EXPECT_EQ(static_cast<DataWindow&>(*opened).session().entry()["VENNO"], number);
+        opened.reset();
+        list.list().nextRow();
+    }
+}
+
+TEST_F(AddressBooks, ARecordThatAnotherUserHasOrThatMayNotBeEditedIsNotOpened)
+{
+    addVendor(1, "A1", "Alpha");
+    BrowseSession list(frmVEXVEN01(), session);
+    list.open();
+    int told = 0;
+    installLockedScreen([&told](const HeldLock&, bool) {
+        ++told;
+        return false;
+    });
+    ASSERT_FALSE(dnRecordLock(1, "VENDORS", 2, "Other", 20));
+    list.edit();
+    list.remove();
+    EXPECT_EQ(told, 2);
+    EXPECT_FALSE(opened);
+    EXPECT_EQ(locks(), 1);
+    installLockedScreen({});
+    EXPECT_EQ(list.currentTag(), 1);
 }
 
 TEST_F(AddressBooks, HoldTheLockWhileAScreenIsOpenAndFollowItBack)
