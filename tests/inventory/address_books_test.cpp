@@ -129,8 +129,8 @@ TEST_F(AddressBooks, OpenTheRecordUnderTheHighlightWhereATagStandsTwiceOrNotAtAl
 {
     addVendor(1, "A1", "Alpha");
     addVendor(1, "B1", "Beta");
-    addVendor(0, "C1", "Gamma");
-    addVendor(0, "D1", "Delta");
+    addVendor(0, "C1", "Carl");
+    addVendor(0, "D1", "Dora");
     BrowseSession list(frmVEXVEN01(), session);
     list.open();
     for (const char* number : {"A1", "B1", "C1", "D1"}) {
