@@ -1,6 +1,7 @@
 #include "app/desktop_area.h"
 
 #include <QApplication>
+#include <QLayout>
 #include <QMdiSubWindow>
 
 #include "screens/desktop.h"
@@ -81,6 +82,14 @@ void DesktopArea::place(QMdiSubWindow* window, bool centred) const
     const QWidget* screen = window->widget();
     const QSize room = viewport()->size();
     const QRect kept = m_layout.value(placeKey(*screen)).toRect();
+    // Fonts decide what room a screen asks for, and a form that scrolls counts its room when told.
+    for (QWidget* part : screen->findChildren<QWidget*>())
+        part->ensurePolished();
+    for (QScrollArea* form : screen->findChildren<QScrollArea*>()) {
+        if (form->widget() && form->widget()->layout())
+            form->widget()->layout()->activate();
+        form->updateGeometry();
+    }
     QSize size = window->sizeHint();
     if (kept.isValid())  // never smaller than what it has come to need since
         size = kept.size().expandedTo(window->minimumSizeHint());

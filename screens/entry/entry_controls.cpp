@@ -91,8 +91,12 @@ QWidget* newControl(const EntryField& field, QWidget* parent)
         }
         case Kind::Box:
             return new QCheckBox(field.caption, parent);
-        case Kind::Choice:
-            return new QComboBox(parent);
+        case Kind::Choice: {
+            // The room that it asks for does not change when it is first shown.
+            auto* choice = new QComboBox(parent);
+            choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+            return choice;
+        }
         case Kind::Picture:
             return newPicture(parent);
         case Kind::Shown:
