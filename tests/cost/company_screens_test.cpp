@@ -7,7 +7,7 @@
 #include "cost/companies.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_session.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 #include "tests/support/scripted_dialogs.h"
 #include "tests/support/scripted_messages.h"
 

@@ -4,7 +4,7 @@
 #include "cost/cost_codes.h"
 #include "cost/target_list_screen.h"
 #include "screens/browse/browse_session.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 #include "tests/support/scripted_messages.h"
 
 namespace {

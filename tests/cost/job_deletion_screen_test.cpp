@@ -5,7 +5,7 @@
 
 #include "screens/browse/browse_session.h"
 #include "screens/report/report_run.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 #include "tests/support/page_text.h"
 #include "tests/support/scripted_messages.h"
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 
 namespace {
 

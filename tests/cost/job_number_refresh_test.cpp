@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/storage/storage_error.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "cost/job_site_settings.h"
 #include "core/sounds.h"
 #include "screens/data/data_window.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 #include "tests/support/scripted_messages.h"
 #include "tests/support/window_helpers.h"
 

@@ -4,7 +4,7 @@
 #include "cost/job_clone_window.h"
 #include "cost/job_settings.h"
 #include "screens/data/data_window.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 #include "tests/support/scripted_messages.h"
 #include "tests/support/window_helpers.h"
 

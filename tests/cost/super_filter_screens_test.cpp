@@ -5,7 +5,7 @@
 
 #include "core/cost_code_groups.h"
 #include "screens/browse/browse_session.h"
-#include "tests/cost/table_rows.h"
+#include "tests/support/table_rows.h"
 #include "tests/support/scripted_messages.h"
 
 namespace {
