@@ -1,0 +1,36 @@
+// ledger_poster FOLDER FIRST COUNT: posts so many adjustments of 1 to item 1, tags from FIRST on.
+// Another program beside that of the test.
+#include <QCoreApplication>
+#include <cstdio>
+
+#include "core/messages.h"
+#include "inventory/ledger_posting.h"
+
+namespace {
+
+class Complaints : public Messages
+{
+public:
+    Complaints() { install(this); }
+    ~Complaints() override { install(nullptr); }
+    Answer show(const Message& message) override
+    {
+        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
+        return Answer::Ok;
+    }
+};
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const Complaints complaints;
+    const QStringList arguments = QCoreApplication::arguments();
+    const int first = arguments.value(2).toInt();
+    for (int i = 0; i < arguments.value(3).toInt(); ++i)
+        if (!zorInvTransUpdate(arguments.value(1), 1, "IA", first + i, "IAI", 0, 1, 0, "03/07/2026",
+                               "20260307", 1))
+            return 1;
+    return 0;
+}
