@@ -1,37 +1,131 @@
 #include "inventory/ledger_replay.h"
 
+#include <cmath>
+
+namespace ledger {
 namespace {
+
+constexpr DocumentNumber orderNumber = {nullptr, "ZORVEX.mdb", "POLIST", "POTAG", "PONO"};
+constexpr DocumentNumber transferNumber = {nullptr, "ZORVEX.mdb", "MTRLIST", "MTRTAG", "MTRNO"};
+constexpr DocumentNumber returnNumber = {nullptr, "ZORVEX.mdb", "MRRLIST", "MRRTAG", "MRRNO"};
+constexpr DocumentNumber issueNumber = {nullptr, "ZORVEX.mdb", "MIRLIST", "MIRTAG", "MIRNO"};
+constexpr DocumentNumber repairNumber = {nullptr, "ZORBRQ.mdb", "BRQROLIST", "BRQROTAG", "BRQRONO"};
+
+constexpr LedgerKind kind(const char* docType, const char* itemType, StockEffect effect,
+                          const char* description, const DocumentNumber& number,
+                          bool itemTypeCounts = false)
+{
+    return {QLatin1String(docType),
+            QLatin1String(itemType),
+            itemTypeCounts,
+            effect,
+            description,
+            number};
+}
+
+}  // namespace
+
+constinit const LedgerKind count =
+    kind("PI", "PII", StockEffect::Count, "Physical Inventory", {.prefix = "PI-"});
+constinit const LedgerKind ordered =
+    kind("PO", "RQI", StockEffect::Ordered, "Purchase Order - Line Item", orderNumber, true);
+constinit const LedgerKind received =
+    kind("PO", "REC", StockEffect::Received, "Purchase Order - Item Received", orderNumber, true);
+constinit const LedgerKind adjusted =
+    kind("IA", "IAI", StockEffect::Adjusted, "Inventory Adjustment", {.prefix = "IA-"});
+constinit const LedgerKind transferOut =
+    kind("MT", "MTD", StockEffect::Out, "Material Transfer Report - Out", transferNumber, true);
+constinit const LedgerKind transferIn =
+    kind("MT", "MTC", StockEffect::In, "Material Transfer Report - In", transferNumber, true);
+constinit const LedgerKind returned =
+    kind("MR", "MRI", StockEffect::Out, "Material Return Report", returnNumber);
+constinit const LedgerKind issued =
+    kind("MI", "MII", StockEffect::Out, "Material Issue Report", issueNumber);
+constinit const LedgerKind used =
+    kind("RO", "ROI", StockEffect::Used, "Repair Order", repairNumber);
+
+}  // namespace ledger
+
+namespace {
+
+constexpr const LedgerKind* kinds[] = {&ledger::count,    &ledger::ordered,     &ledger::received,
+                                       &ledger::adjusted, &ledger::transferOut, &ledger::transferIn,
+                                       &ledger::returned, &ledger::issued,      &ledger::used};
+
+QString refusalOf(const QString& docType, const QString& itemType, const LedgerReading& reading)
+{
+    if (docType == ledger::ordered.docType)
+        return "Invalid PO Item Type: " + itemType.trimmed();
+    if (docType == ledger::transferOut.docType)
+        return QString("Invalid ") + reading.transferName + " Item Type: " + itemType.trimmed();
+    return "Invalid Document Type: " + docType.trimmed();
+}
 
 float singleOf(const storage::Recordset& rows, schema::FieldName field)
 {
     return static_cast<float>(rows[field].value().toDouble());
 }
 
+bool forEachOf(storage::Recordset& transactions, const char* index, schema::FieldName owner,
+               qint32 tag, const std::function<bool()>& take)
+{
+    transactions.Index(index);
+    if (!transactions.Seek("=", tag))
+        return false;
+    do {
+        if (transactions[owner].value().toInt() != tag || !take())
+            break;
+    } while (transactions.MoveNext());
+    return true;
+}
+
 }  // namespace
 
-bool StockQuantities::apply(const QString& DOCTYPE, const QString& ITEMTYPE, float QUANTITY)
+const LedgerKind* ledgerKind(const QString& docType, const QString& itemType,
+                             const LedgerReading& reading)
 {
-    if (DOCTYPE == u"PI") {
-        *this = {.available = QUANTITY};
-    } else if (DOCTYPE == u"PO" && ITEMTYPE == u"RQI") {
-        onOrder += QUANTITY;
-    } else if (DOCTYPE == u"PO" && ITEMTYPE == u"REC") {
-        available += QUANTITY;
-        onOrder -= QUANTITY;
-    } else if (DOCTYPE == u"IA") {
-        available += QUANTITY;
-        adjustments += QUANTITY;
-    } else if (DOCTYPE == u"MT" && ITEMTYPE == u"MTC") {
-        available += QUANTITY;
-    } else if ((DOCTYPE == u"MT" && ITEMTYPE == u"MTD") || DOCTYPE == u"MR" || DOCTYPE == u"MI") {
-        available -= QUANTITY;
-    } else if (DOCTYPE == u"RO") {
-        available -= QUANTITY;
-        issued += QUANTITY;
-    } else {
-        return false;
+    for (const LedgerKind* kind : kinds)
+        if (docType == kind->docType && (!kind->itemTypeCounts || itemType == kind->itemType))
+            return kind == &ledger::issued && !reading.knowsIssues ? nullptr : kind;
+    return nullptr;
+}
+
+void StockQuantities::apply(StockEffect effect, float quantity, const LedgerReading& reading)
+{
+    switch (effect) {
+        case StockEffect::Count:
+            if (reading.countClearsOrders)
+                *this = {};
+            available = quantity;
+            break;
+        case StockEffect::Ordered:
+            onOrder += quantity;
+            break;
+        case StockEffect::Received:
+            available += quantity;
+            onOrder -= quantity;
+            break;
+        case StockEffect::Adjusted:
+            available += quantity;
+            adjustments += quantity;
+            break;
+        case StockEffect::Out:
+            available -= quantity;
+            break;
+        case StockEffect::In:
+            available += quantity;
+            break;
+        case StockEffect::Used:
+            available -= quantity;
+            issued += quantity;
+            break;
     }
-    return true;
+}
+
+bool StockQuantities::fit() const
+{
+    return std::isfinite(available) && std::isfinite(onOrder) && std::isfinite(issued) &&
+           std::isfinite(adjustments);
 }
 
 StockQuantities storedQuantities(const storage::Recordset& item)
@@ -44,38 +138,35 @@ StockQuantities storedQuantities(const storage::Recordset& item)
 
 void store(storage::Recordset& item, const StockQuantities& quantities)
 {
-    item["AVAILABLE"] = quantities.available;
-    item["ONORDER"] = quantities.onOrder;
-    item["ISSUED"] = quantities.issued;
-    item["INVADJUSTMENTS"] = quantities.adjustments;
+    item["AVAILABLE"] = double(quantities.available);
+    item["ONORDER"] = double(quantities.onOrder);
+    item["ISSUED"] = double(quantities.issued);
+    item["INVADJUSTMENTS"] = double(quantities.adjustments);
 }
 
-bool LedgerReplay::take(const storage::Recordset& row)
+bool LedgerReplay::take(const storage::Recordset& transactions)
 {
-    const QString DOCTYPE = row["DOCTYPE"].value().toString();
-    const QString ITEMTYPE = row["ITEMTYPE"].value().toString();
-    const bool isKnown = m_reading.knowsIssues || DOCTYPE != u"MI";
-    if (isKnown && m_quantities.apply(DOCTYPE, ITEMTYPE, singleOf(row, "QUANTITY")))
-        return true;
-    if (DOCTYPE == u"PO")
-        m_refusal = "Invalid PO Item Type: " + ITEMTYPE.trimmed();
-    else if (DOCTYPE == u"MT")
-        m_refusal =
-            QString("Invalid ") + m_reading.transferName + " Item Type: " + ITEMTYPE.trimmed();
-    else
-        m_refusal = "Invalid Document Type: " + DOCTYPE.trimmed();
-    return false;
-}
-
-int forEachOfItem(storage::Recordset& ledger, qint32 ISNTAG, const std::function<bool()>& take)
-{
-    int taken = 0;
-    ledger.Index("INVTRANSISNTAG");
-    for (bool more = ledger.Seek("=", ISNTAG); more && ledger["ISNTAG"].value().toInt() == ISNTAG;
-         more = ledger.MoveNext()) {
-        ++taken;
-        if (!take())
-            break;
+    const QString docType = transactions["DOCTYPE"].value().toString();
+    const QString itemType = transactions["ITEMTYPE"].value().toString();
+    const LedgerKind* kind = ledgerKind(docType, itemType, m_reading);
+    if (!kind) {
+        m_refusal = refusalOf(docType, itemType, m_reading);
+        return false;
     }
-    return taken;
+    m_quantities.apply(kind->effect, singleOf(transactions, "QUANTITY"), m_reading);
+    if (!m_quantities.fit())
+        m_refusal = "Overflow";
+    return m_refusal.isEmpty();
+}
+
+bool forEachOfItem(storage::Recordset& transactions, qint32 isnTag,
+                   const std::function<bool()>& take)
+{
+    return forEachOf(transactions, "INVTRANSISNTAG", "ISNTAG", isnTag, take);
+}
+
+bool forEachOfCatalogItem(storage::Recordset& transactions, qint32 icnTag,
+                          const std::function<bool()>& take)
+{
+    return forEachOf(transactions, "INVTRANSICNTAG", "ICNTAG", icnTag, take);
 }

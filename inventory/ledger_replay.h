@@ -1,15 +1,69 @@
-// The replay of the ledger, by which an item's four quantities come about: all its rows, oldest
-// first, each with the effect of its kind. Sums run in single precision, as they are stored.
+// The ledger of an inventory: the rows of INVTRANS, one for the effect of a document's line on an
+// item. Nothing is added to an item's quantities in place; they are what a replay of all its rows
+// gives, oldest first. What kinds of rows there are, and what each does, is told here once, for the
+// postings, the rebuild, the histories and the check of a site.
 //
 // Some effects are odd and stay: a count wipes what was on order, a return subtracts as an issue
 // does, and repair orders alone count as issued. Nothing looks at a negative result.
 #pragma once
 
+#include <QLatin1String>
 #include <QString>
 #include <functional>
 
 #include "core/storage/recordset.h"
 
+enum class StockEffect { Count, Ordered, Received, Adjusted, Out, In, Used };
+
+// Where the number of a document is found by its tag. Without a table it is made of the prefix and
+// the tag, which such documents have in place of a number.
+struct DocumentNumber
+{
+    const char* prefix = nullptr;
+    const char* file = nullptr;
+    const char* table = nullptr;
+    const char* index = nullptr;
+    schema::FieldName number = {};
+};
+
+struct LedgerKind
+{
+    QLatin1String docType;
+    QLatin1String itemType;
+    bool itemTypeCounts;  // whether the kind of line parts it from others of the document
+    StockEffect effect;
+    const char* description;
+    DocumentNumber number;
+};
+
+namespace ledger {
+extern const LedgerKind count, ordered, received, adjusted, transferOut, transferIn, returned,
+    issued, used;
+}
+
+// How readers of the ledger differ.
+struct LedgerReading
+{
+    bool knowsIssues = true;        // material issue reports
+    bool countClearsOrders = true;  // a count sets all quantities anew, not the one on hand alone
+    const char* transferName = "M/T";         // of a transfer's line of unknown kind
+    const char* returnDescription = nullptr;  // in place of the kind's own
+};
+inline constexpr LedgerReading postingReading = {};
+// The rebuild writes no issue reports, so that one that it meets is of unknown kind.
+inline constexpr LedgerReading rebuildReading = {.knowsIssues = false,
+                                                 .transferName = "Material Transfer"};
+inline constexpr LedgerReading historyReading = {.countClearsOrders = false};
+inline constexpr LedgerReading historyReportReading = {
+    .knowsIssues = false,
+    .countClearsOrders = false,
+    .returnDescription = "Material Release Report"};
+
+// The kind of a row; null for one that the reading does not know.
+const LedgerKind* ledgerKind(const QString& docType, const QString& itemType,
+                             const LedgerReading& reading);
+
+// The four quantities of an item, in single precision as they are stored.
 struct StockQuantities
 {
     float available = 0;
@@ -17,8 +71,9 @@ struct StockQuantities
     float issued = 0;
     float adjustments = 0;
 
-    // Applies one row. False for a kind of row that there is not, which changes nothing.
-    bool apply(const QString& DOCTYPE, const QString& ITEMTYPE, float QUANTITY);
+    void apply(StockEffect effect, float quantity, const LedgerReading& reading);
+    // False when a sum has become more than a Single holds.
+    bool fit() const;
     bool operator==(const StockQuantities&) const = default;
 };
 
@@ -26,34 +81,30 @@ struct StockQuantities
 StockQuantities storedQuantities(const storage::Recordset& item);
 void store(storage::Recordset& item, const StockQuantities& quantities);
 
-// What a replay knows, and how it names what it does not know.
-struct LedgerReading
-{
-    const char* transferName;  // of the line of a transfer
-    bool knowsIssues = true;   // material issue reports
-};
-inline constexpr LedgerReading postingReading{"M/T"};
-// The rebuild writes no issue reports, so that one that it meets is of unknown kind.
-inline constexpr LedgerReading rebuildReading{"Material Transfer", false};
-
+// A replay, fed row by row.
 class LedgerReplay
 {
 public:
     explicit LedgerReplay(const LedgerReading& reading) : m_reading(reading) {}
 
-    // Takes the row on which the handle stands. False for one of unknown kind, which ends it.
-    bool take(const storage::Recordset& row);
+    // Takes the row on which the handle stands. False when its kind is unknown, or a sum does not
+    // fit a Single any more, which ends the replay.
+    bool take(const storage::Recordset& transactions);
 
     const StockQuantities& quantities() const { return m_quantities; }
     // What is told of the row that ended it; blank when none did.
     const QString& refusal() const { return m_refusal; }
 
 private:
-    LedgerReading m_reading;
+    const LedgerReading& m_reading;
     StockQuantities m_quantities;
     QString m_refusal;
 };
 
-// Calls for each row of the item, oldest first, the handle on it, until one gives false. The
-// handle's index becomes INVTRANSISNTAG. Gives how many were taken.
-int forEachOfItem(storage::Recordset& ledger, qint32 ISNTAG, const std::function<bool()>& take);
+// Walks an item's rows oldest first, or those of a catalog item in the order of entry, while `take`
+// gives true. The handle's index becomes INVTRANSISNTAG or INVTRANSICNTAG. False when there is no
+// row at all.
+bool forEachOfItem(storage::Recordset& transactions, qint32 isnTag,
+                   const std::function<bool()>& take);
+bool forEachOfCatalogItem(storage::Recordset& transactions, qint32 icnTag,
+                          const std::function<bool()>& take);
