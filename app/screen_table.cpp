@@ -12,6 +12,7 @@
 #include "cost/target_list_screen.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
+#include "inventory/items.h"
 #include "purchasing/code_lists.h"
 #include "purchasing/document_texts.h"
 #include "purchasing/terms_codes.h"
@@ -52,6 +53,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXGLC01", browse<frmVEXGLC01>},
     {"frmVEXIC01", browse<frmVEXIC01>},
     {"frmVEXILC01", browse<frmVEXILC01>},
+    {"frmVEXINV01", browse<frmVEXINV01>},
     {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
     {"frmVEXJND01", browse<frmVEXJND01>},

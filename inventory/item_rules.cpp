@@ -115,13 +115,12 @@ void supersede(PartNumbers& numbers, const QString& oldPARTNO, const QString& PA
 // Writes a field of each row whose key along the index is the tag; how many. Which they are is
 // found out first: the field may be a key of the index.
 template <class Wanted>
-int writeWhere(OpenTable& open, const QString& index, const storage::Value& key,
-               schema::FieldName keyField, schema::FieldName field, const storage::Value& value,
-               Wanted isWanted)
+int writeWhere(OpenTable& open, const QString& index, KeyFields keys, schema::FieldName field,
+               const storage::Value& value, Wanted isWanted)
 {
     storage::Recordset& rows = open.rows;
     std::vector<QString> found;
-    forEachWithin(rows, index, {{keyField, key}}, [&] {
+    forEachWithin(rows, index, keys, [&] {
         if (isWanted(rows))
             found.push_back(rows.Bookmark());
         return true;
@@ -295,14 +294,20 @@ int postVendor(const QString& jobSitePath, qint32 ILCTAG, qint32 VENTAG)
 {
     OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
     return writeWhere(
-        items, "INVTAGGED", "Y", "TAGGED", "VENTAG", VENTAG,
+        items, "INVTAGGED", {{"TAGGED", "Y"}}, "VENTAG", VENTAG,
         [ILCTAG](const storage::Recordset& rows) { return intOf(rows["ILCTAG"]) == ILCTAG; });
+}
+
+int tagItems(const QString& jobSitePath, const QString& index, const std::vector<KeyField>& keys)
+{
+    OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
+    return writeWhere(items, index, keys, "TAGGED", "Y", anyRow);
 }
 
 void clearItemTags(const QString& jobSitePath)
 {
     OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
-    writeWhere(items, "INVTAGGED", "Y", "TAGGED", "TAGGED", " ", anyRow);
+    writeWhere(items, "INVTAGGED", {{"TAGGED", "Y"}}, "TAGGED", " ", anyRow);
 }
 
 QString changeBranch(const QString& jobSitePath, const BranchChange& change)
@@ -317,7 +322,7 @@ QString changeBranch(const QString& jobSitePath, const BranchChange& change)
         if (detail.file == equipmentFile && !hasEquipment(jobSitePath))
             continue;
         OpenTable open = openTable(jobSitePath, detail.file, detail.table);
-        const int count = writeWhere(open, detail.index, change.ISNTAG, "ISNTAG", "ILCTAG",
+        const int count = writeWhere(open, detail.index, {{"ISNTAG", change.ISNTAG}}, "ILCTAG",
                                      change.ILCTAG, anyRow);
         if (count > 0)
             report += '\n' + QString(detail.line) + QString("%1").arg(count, places);

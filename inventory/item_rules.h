@@ -4,6 +4,7 @@
 // `jobSitePath` is the folder of the job site. Failures of the store are the caller's.
 #pragma once
 
+#include "core/keyed_access.h"
 #include "core/session.h"
 #include "core/storage/recordset.h"
 
@@ -36,6 +37,8 @@ qint32 cloneItem(const QString& jobSitePath, qint32 ISNTAG, const QString& userN
 bool hasTaggedItems(const QString& jobSitePath, qint32 ILCTAG);
 // Writes the vendor, or 0, into the tagged items of the branch; they stay tagged. How many.
 int postVendor(const QString& jobSitePath, qint32 ILCTAG, qint32 VENTAG);
+// Tags the items whose first fields along the index equal the keys. How many.
+int tagItems(const QString& jobSitePath, const QString& index, const std::vector<KeyField>& keys);
 // Takes the tags of all items of all branches away.
 void clearItemTags(const QString& jobSitePath);
 

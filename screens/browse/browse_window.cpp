@@ -216,6 +216,17 @@ void BrowseWindow::takeParent()
     list.setParent(keys);
 }
 
+// A command has gone to another parent, which it has made the user's: the choice shows it.
+void BrowseWindow::followParent()
+{
+    const std::vector<KeyField> shown = m_parent->keys();
+    const std::vector<KeyField>& now = session(0).list().source().parent;
+    const auto same = [](const KeyField& a, const KeyField& b) { return a.key == b.key; };
+    if (!shown.empty() && shown.size() <= now.size() &&
+        !std::equal(shown.begin(), shown.end(), now.begin(), same))
+        m_parent->load();
+}
+
 // Each level at the right shows what belongs to the record at its left; nothing belongs to tag 0.
 void BrowseWindow::fillBelow(size_t level)
 {
@@ -261,6 +272,8 @@ void BrowseWindow::showState()
 {
     const bool browsing = session().isBrowsing();
     const bool lacksParent = m_parent && !session(0).hasParent();
+    if (m_parent && !lacksParent)
+        runCommand([this] { followParent(); });
     runCommand([this] {
         setWindowTitle(session(0).caption());
         for (const Level& level : m_levels)

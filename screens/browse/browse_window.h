@@ -76,6 +76,7 @@ private:
     void orderTabs();
     void load();
     void takeParent();
+    void followParent();
     void fillBelow(size_t level);
     void enterLevel(size_t level);
     void showKeys();

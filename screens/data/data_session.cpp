@@ -116,7 +116,7 @@ bool DataSession::refuse()
     return true;
 }
 
-bool DataSession::update()
+bool DataSession::update(bool stays)
 {
     if (!m_isLoaded)
         return false;
@@ -128,16 +128,17 @@ bool DataSession::update()
         return remove();
     if (refuse())
         return false;
+    stays = stays || m_spec.staysOpen;
     m_entry.drawTag(m_spec.tag);
     using Step = EntryRules::Step;
     const Step step = m_spec.rules ? m_spec.rules->beforeWrite(m_entry) : Step::Write;
     if (step == Step::Leave)
         m_entry.takeAsUnchanged();
-    if (step != Step::Write || !write())
+    if (step != Step::Write || !write(stays))
         return step == Step::Leave;
     if (m_spec.savedMessage)
         Messages::current().show(*m_spec.savedMessage);
-    return !m_spec.staysOpen;
+    return !stays;
 }
 
 qint32 DataSession::tagHere()
@@ -148,7 +149,7 @@ qint32 DataSession::tagHere()
                                       : intOf(m_table.rows.fieldNamed(m_spec.tag.field));
 }
 
-bool DataSession::write()
+bool DataSession::write(bool stays)
 {
     storage::Recordset& rows = m_table.rows;
     if (m_mode == "E" && !m_entry.goToRecord()) {
@@ -169,7 +170,7 @@ bool DataSession::write()
         m_spec.rules->written(m_entry, rows);
     m_hotTag = tagHere();
     m_entry.takeAsUnchanged();
-    if (m_spec.staysOpen) {
+    if (stays) {
         m_mode = "E";
         m_entry.begin(m_mode, rows, {m_entry.parent(), m_spec.index});
         if (m_spec.rules)
@@ -187,7 +188,7 @@ bool DataSession::remove()
     if (m_spec.deleteTest) {
         const QString refusal = m_spec.deleteTest(m_session, rows);
         if (!refusal.isEmpty()) {
-            showCritical("Cannot Delete", refusal);
+            showCritical(m_spec.deleteRefusalTitle, refusal);
             return false;
         }
     }

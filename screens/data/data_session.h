@@ -53,15 +53,15 @@ public:
 
     bool isLoaded() const { return m_isLoaded; }
 
-    // True when the screen is finished and closes.
-    bool update();
+    // True when the screen is finished and closes. With `stays` it goes on with the saved record.
+    bool update(bool stays = false);
     // True when the screen may be left.
     bool mayLeave();
     void run(const DataCommand& command);
 
 private:
     bool refuse();
-    bool write();
+    bool write(bool stays);
     bool remove();
     qint32 tagHere();
 

@@ -44,8 +44,9 @@ struct DataSpec
     QString lock = {};  // the record lock that the list took; given up when the screen closes
 
     std::shared_ptr<EntryRules> rules = {};
-    // Before the question of a deletion: the text of "Cannot Delete", else empty.
+    // Before the question of a deletion: why it cannot be, else empty.
     std::function<QString(const Session&, storage::Recordset&)> deleteTest = {};
+    QString deleteRefusalTitle = "Cannot Delete";
     std::function<Message(storage::Recordset&)> deleteQuestion = {};  // OK or Yes deletes
     // The tag with which a list follows; none: the record's own by `tag.field`.
     std::function<qint32(storage::Recordset&)> hotTag = {};
@@ -59,6 +60,9 @@ struct DataSpec
     std::optional<Message> savedMessage = {};  // told after Update
     bool staysOpen = false;                    // Update does not close the screen
     QString updateCaption = "&Update";
+    QString updateName = "cmdUpdate";
+    // A second command, cmdUpdateStay, that saves and goes on with the record; blank: none.
+    QString stayCaption = {};
     bool hasFieldSearch = false;  // a box that finds fields by their captions
 };
 

@@ -194,17 +194,24 @@ void DataWindow::buildCommands()
     for (const DataCommand& command : m_session.spec().commands)
         m_commands->add(command.name, command.caption,
                         [this, &command] { run([&] { m_session.run(command); }); });
-    m_update = m_commands->add("cmdUpdate", m_session.updateCaption(), [this] {
-        bool isFinished = false;
-        run([&] { isFinished = m_session.update(); });
-        const bool isSaved = m_session.spec().staysOpen && !m_session.entry().isChanged() &&
-                             m_session.entry().errors().ErrorCount() == 0;
-        if (isFinished)
-            close();
-        else if (!isSaved)  // else the user stays on his page
-            takeFocus();
-    });
+    const DataSpec& spec = m_session.spec();
+    if (!spec.stayCaption.isEmpty() && m_session.isForTyping())
+        m_commands->add("cmdUpdateStay", spec.stayCaption, [this] { update(true); });
+    m_update = m_commands->add(spec.updateName, m_session.updateCaption(),
+                               [this] { update(m_session.spec().staysOpen); });
     m_cancel = m_commands->add("cmdCancel", m_session.cancelCaption(), [this] { close(); });
+}
+
+void DataWindow::update(bool stays)
+{
+    bool isFinished = false;
+    run([&] { isFinished = m_session.update(stays); });
+    const bool isSaved =
+        stays && !m_session.entry().isChanged() && m_session.entry().errors().ErrorCount() == 0;
+    if (isFinished)
+        close();
+    else if (!isSaved)  // else the user stays on his page
+        takeFocus();
 }
 
 void DataWindow::run(const std::function<void()>& command)

@@ -32,6 +32,7 @@ private:
     void build();
     QWidget* buildSection(const DataSection& section, int firstField);
     void buildCommands();
+    void update(bool stays);
     void run(const std::function<void()>& command);
     void showState();
     void takeFocus();
