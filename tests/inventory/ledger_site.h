@@ -34,6 +34,7 @@ protected:
                          {"DOCTYPE", docType},
                          {"ITEMTYPE", itemType},
                          {"DOCTAG", docTag},
+                         {"ITEMTAG", 0},
                          {"FDATE", shown(lDate)},
                          {"LDATE", lDate},
                          {"QUANTITY", quantity}});

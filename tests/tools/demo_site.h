@@ -28,6 +28,7 @@ public:
     const demo::Plan& plan() const { return m_plan; }
     qint32 tag() const { return m_site.tag; }
     QString folder() const { return m_folder.path(); }
+    QString path() const { return m_path; }  // of the job site
 
     storage::Recordset open(const QString& file, const QString& table) const
     {

@@ -1,7 +1,8 @@
 #include "tools/demo/demo.h"
 
 #include "core/storage/file_paths.h"
-#include "tools/demo/ledger.h"
+#include "inventory/ledger_replay.h"
+#include "tools/demo/world.h"
 
 namespace demo {
 namespace {
@@ -71,13 +72,10 @@ void replayAllItems(const QString& path)
     Recordset items = zorvex.OpenRecordset("INVENTORY");
     items.Index("INVISNTAG");
     for (items.MoveFirst(); !items.EOF(); items.MoveNext()) {
-        Quantities quantities;
-        replayItem(ledger, items["ISNTAG"].value().toInt(), quantities);
+        LedgerReplay replay(postingReading);
+        forEachOfItem(ledger, items["ISNTAG"].value().toInt(), [&] { return replay.take(ledger); });
         items.Edit();
-        items["AVAILABLE"] = static_cast<double>(quantities.available);
-        items["ONORDER"] = static_cast<double>(quantities.onOrder);
-        items["ISSUED"] = static_cast<double>(quantities.issued);
-        items["INVADJUSTMENTS"] = static_cast<double>(quantities.adjustments);
+        store(items, replay.quantities());
         items.Update();
     }
     workspace.CommitTrans();
