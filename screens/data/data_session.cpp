@@ -65,7 +65,7 @@ bool DataSession::open()
         showCritical("No Active Record.", "Another user has deleted this record.");
         return false;
     }
-    EntryPlace place{m_record.parent, m_spec.index};
+    EntryPlace place{isNew ? m_record.parent : std::vector<KeyField>(), m_spec.index};
     if (!isNew)
         for (const schema::FieldName field : m_spec.parent)
             place.parent.push_back({field, rows[field].value()});

@@ -1,0 +1,303 @@
+// The browse of items and the screen of one, without their windows.
+#include "inventory/items.h"
+
+#include "inventory/item_search.h"
+#include "screens/browse/browse_session.h"
+#include "screens/data/data_session.h"
+#include "screens/desktop.h"
+#include "tests/support/fixed_system.h"
+#include "tests/support/scripted_messages.h"
+#include "tests/support/table_rows.h"
+#include "tests/support/window_helpers.h"
+
+namespace {
+
+class Items : public testing::Test
+{
+protected:
+    Items()
+    {
+        session.JobSitePath = site.siteFolder();
+        session.UserSettingsPath = site.userFolder();
+        session.UserName = TestInstallation::userName;
+        session.SiteTag = 1;
+        session.UserTag = 1;
+        site.addRow("ZORNET.mdb", "USERACCESSITEMS",
+                    {{"UAITAG", 1}, {"UAICODE", "INV02"}, {"Desc", "Edit"}});
+        for (const char* table : {"INVENTORY", "INVPNMASTER", "ILCLIST", "SERIESCODES",
+                                  "SUBCATEGORIES", "BINLIST", "VENDORS", "RQILIST"})
+            site.emptyTable("ZORVEX.mdb", table);
+        site.emptyTable("ZORUSER.mdb", "VEXINVLASTUPDATE");
+        for (const int branch : {1, 2})
+            add("ILCLIST",
+                {{"ILCTAG", branch}, {"ILCCODE", QString::number(branch)}, {"ILCNAME", "Yard"}});
+        add("SERIESCODES",
+            {{"ILCTAG", 1}, {"SERIESTAG", 10}, {"SERIESCODE", "100"}, {"SERIESNAME", "Pipe"}});
+        add("SUBCATEGORIES",
+            {{"SERIESTAG", 10}, {"SUBCATTAG", 20}, {"SUBCATCODE", "STL"}, {"SUBCATNAME", "Steel"}});
+        add("BINLIST", {{"ILCTAG", 1}, {"BINTAG", 30}, {"BINNO", "A1"}, {"BINNAME", "Row A"}});
+        add("VENDORS", {{"VENTAG", 40}, {"VENNO", "V1"}, {"Name", "Harbor"}});
+    }
+    void add(const char* table, TestInstallation::NewRow values) const
+    {
+        site.addRow("ZORVEX.mdb", table, values);
+    }
+    void addItem(int ISNTAG, const QString& PARTNO, int ILCTAG = 1, int SERIESTAG = 10,
+                 int SUBCATTAG = 20) const
+    {
+        add("INVENTORY", {{"ISNTAG", ISNTAG},
+                          {"ILCTAG", ILCTAG},
+                          {"PARTNO", PARTNO},
+                          {"SERIESTAG", SERIESTAG},
+                          {"SUBCATTAG", SUBCATTAG},
+                          {"BINTAG", 31},
+                          {"UPCCODE", "U" + PARTNO},
+                          {"TAGGED", " "}});
+    }
+    DataSession screen(const QString& mode, int ISNTAG = 0)
+    {
+        return DataSession(frmVEXINV02(session, {.ILCTAG = 1}), session,
+                           {.mode = mode,
+                            .index = "INVISNTAG",
+                            .keys = {{"ISNTAG", ISNTAG}},
+                            .parent = {{"ILCTAG", 1}},
+                            .tag = ISNTAG});
+    }
+    static void fill(Entry& entry, const QString& PARTNO)
+    {
+        entry.setNamed("txtSERIESCODE", "100");
+        entry.setNamed("txtSERIESNAME", "Pipe");
+        entry.setNamed("txtSUBCATCODE", "stl");
+        entry.setNamed("txtSUBCATNAME", "Steel");
+        entry.setNamed("txtPARTNO", PARTNO);
+    }
+    static void type(Entry& entry, const QString& control, const QString& text)
+    {
+        const int at = entry.indexOf(control);
+        entry.setText(at, text);
+        entry.leave(at);
+    }
+    void refuse(DataSession& in, const QString& text)
+    {
+        user.expect("Cannot Update", "Errors Detected: \n\n" + text);
+        EXPECT_FALSE(in.update());
+        EXPECT_TRUE(user.allCame()) << text.toStdString();
+    }
+    static void run(BrowseSession& list, const QString& name)
+    {
+        for (const BrowseCommand& command : list.spec().commands)
+            if (command.name == name)
+                return list.run(command);
+        ADD_FAILURE() << name.toStdString();
+    }
+    static QStringList partNumbers(BrowseSession& list)
+    {
+        QStringList numbers;
+        for (const BrowseLine& line : list.list().lines())
+            if (line.cells.size() > 1)
+                numbers.append(line.cells[1]);
+        return numbers;
+    }
+
+    FixedSystem system;
+    TestInstallation site;
+    ScriptedMessages user;
+    Session session;
+};
+
+TEST_F(Items, AddAnItemInItsCodesWithItsPartNumber)
+{
+    DataSession added = screen("A");
+    ASSERT_TRUE(added.open());
+    EXPECT_EQ(added.caption(), "Inventory Item - Add");
+    refuse(added,
+           "Series Code is Empty.\nCategory Name is Empty.\nSubcategory Code is Blank\n"
+           "Subcategory Name is Empty.\nPart Number is Empty.");
+    fill(added.entry(), "p-1");
+    added.entry().setNamed("txtSERIESCODE", "9");
+    added.entry().setNamed("txtVENNO", "V9");
+    added.entry().setNamed("txtBINNO", "Z9");
+    refuse(added,
+           "Cannot Find Series Code: 9\nCannot Find Subcategory for Above Series Code.\n"
+           "Cannot Find Vendor Number: V9\nCannot Find Bin Number: Z9");
+    fill(added.entry(), "p-1");
+    added.entry().setNamed("txtVENNO", "v1");
+    added.entry().setNamed("txtBINNO", "");
+    added.entry().setNamed("txtDESC", "Gate valve\n2 inch");
+    EXPECT_TRUE(added.update());
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY",
+                     {"ILCTAG", "SERIESTAG", "SUBCATTAG", "PARTNO", "SHORTDESC", "VENTAG", "BINTAG",
+                      "AVAILABLE", "TAGGED"}),
+              QStringList{"1|10|20|P-1|Gate valve 2 inch|40|0|0| "});
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVPNMASTER", {"ILCTAG", "PARTNO", "FDATE"}),
+              QStringList{"1|P-1| <Current>"});
+
+    DataSession next = screen("A");
+    ASSERT_TRUE(next.open());
+    EXPECT_EQ(next.entry().named("txtSERIESNAME"), "Pipe") << "the user's last item";
+    EXPECT_EQ(next.entry().named("txtVENNO"), "V1");
+    fill(next.entry(), "P-1");
+    refuse(next, "Duplicate Part Number Detected.");
+}
+
+TEST_F(Items, PricesFollowEachOther)
+{
+    DataSession added = screen("A");
+    ASSERT_TRUE(added.open());
+    Entry& entry = added.entry();
+    fill(entry, "P-1");
+    type(entry, "txtWHOLESALE", "80");
+    type(entry, "txtMARKUP", "150");
+    EXPECT_EQ(entry.named("txtRETAIL"), "200.00");
+    type(entry, "txtRETAIL", "210");
+    refuse(added, "Invalid Retail. Cannot Change Retail Unless Default Mark Up is Zero.");
+    type(entry, "txtMARKUP", "-1");
+    refuse(added,
+           "Invalid Markup. Value Must Be Between 0 - 100\n"
+           "Invalid Retail. Cannot Change Retail Unless Default Mark Up is Zero.");
+    type(entry, "txtWHOLESALE", "1000");
+    type(entry, "txtMARKUP", "0");
+    type(entry, "txtRETAIL", "1333.33");
+    EXPECT_EQ(entry.named("txtMARKUP"), "33.33");
+    EXPECT_TRUE(added.update()) << "the markup shows less than the retail price says";
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"RETAIL"}), QStringList{"1333.33"});
+}
+
+TEST_F(Items, SaveAndStayGoesOnWithTheItemAndItsFormerNumber)
+{
+    addItem(5, "OLD");
+    DataSession edited = screen("E", 5);
+    ASSERT_TRUE(edited.open());
+    edited.entry().setNamed("txtPARTNO", "NEW");
+    user.expect("Confirm Add.",
+                "OK to Add Old Part Number: OLD\nto Master Part Number Table as a Superseded Part "
+                "Number?\n\nIf Change was a Minor Edit Change Then Do Not Add, Click NO.",
+                Answer::Yes);
+    EXPECT_FALSE(edited.update(true));
+    EXPECT_EQ(edited.mode(), "E");
+    EXPECT_TRUE(edited.update()) << "unchanged now: nothing is asked";
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVPNMASTER", {"PARTNO", "FDATE"}),
+              (QStringList{"OLD|03/07/2026", "NEW| <Current>"}));
+}
+
+TEST_F(Items, DeletionIsRefusedForDetail)
+{
+    addItem(5, "P-1");
+    add("RQILIST", {{"ISNTAG", 5}});
+    DataSession deleted = screen("D", 5);
+    ASSERT_TRUE(deleted.open());
+    user.expect("Cannot Delete.", "Related Detail Found: \nPurchase Order Line Items Found.");
+    EXPECT_FALSE(deleted.update());
+    site.emptyTable("ZORVEX.mdb", "RQILIST");
+    user.expect("Confirm Delete.", "OK to Delete?");
+    EXPECT_TRUE(deleted.update());
+    EXPECT_EQ(site.rowCount("ZORVEX.mdb", "INVENTORY"), 0);
+}
+
+TEST_F(Items, BrowseNarrowsToSeriesAndSubcategoryAndStaysOnItsItem)
+{
+    addItem(5, "P-1");
+    addItem(6, "P-2", 1, 10, 21);
+    addItem(7, "P-3", 1, 11, 0);
+    addItem(8, "P-0", 2);
+    BrowseSession list(frmVEXINV01(), session);
+    list.open();
+    list.setParent({{"ILCTAG", 1}});
+    EXPECT_EQ(partNumbers(list), (QStringList{"P-1", "P-2", "P-3"}));
+    EXPECT_EQ(list.list().lines()[0].cells[4], " ??????") << "the bin is gone";
+    list.showTag(6);
+    run(list, "cmdFilter");
+    EXPECT_EQ(list.list().source().index, "INVSERIESPARTNO");
+    EXPECT_EQ(list.currentTag(), 6);
+    list.list().home();
+    EXPECT_EQ(partNumbers(list), (QStringList{"P-1", "P-2"}));
+    list.showTag(6);
+    run(list, "cmdFilter");
+    EXPECT_EQ(partNumbers(list), QStringList{"P-2"});
+    EXPECT_TRUE(list.spec().status(list).contains("Filter is On"));
+    run(list, "cmdTagAll");
+    run(list, "cmdFilter");
+    EXPECT_EQ(list.currentTag(), 6);
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"ISNTAG", "TAGGED"}),
+              (QStringList{"5| ", "6|Y", "7| ", "8| "}));
+    run(list, "cmdTAGEM");
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"TAGGED"}).at(1), " ");
+    list.close();
+
+    BrowseSession again(frmVEXINV01(), session);
+    again.open();
+    again.setParent({{"ILCTAG", 1}});
+    EXPECT_EQ(again.currentTag(), 6) << "where the user was";
+    again.setParent({{"ILCTAG", 2}});
+    EXPECT_EQ(again.currentTag(), 8);
+}
+
+TEST_F(Items, CloneAndPostedVendor)
+{
+    addItem(5, "P-1");
+    BrowseSession list(frmVEXINV01(), session);
+    list.open();
+    list.setParent({{"ILCTAG", 1}});
+    user.expect("Confirm Clone",
+                "Clone This Item?\n\nNote: Only the Quantities Maximum and Minimum Will be Cloned."
+                "\nEdit the On Order and Available Quantities as Needed for New Item.",
+                Answer::Yes);
+    run(list, "cmdClone");
+    EXPECT_EQ(partNumbers(list).first(), "COPY");
+    user.expect("Cannot Post.", "Nothing to Do (There are No Tagged Items).");
+    run(list, "cmdPostVendor");
+    user.expect("Cannot Post", "Nothing to Post. Vendor Number is Blank.");
+    EXPECT_FALSE(vendorToPost(site.siteFolder(), " ", false));
+    user.expect("Cannot Post", "Cannot Find Vendor Number: V9");
+    EXPECT_FALSE(vendorToPost(site.siteFolder(), "V9", false));
+    EXPECT_EQ(vendorToPost(site.siteFolder(), "v1", false), 40);
+    EXPECT_EQ(vendorToPost(site.siteFolder(), "", true), 0);
+}
+
+TEST_F(Items, PartNumbersAreFoundInEveryBranch)
+{
+    addItem(8, "P-0", 2);
+    add("INVPNMASTER", {{"ILCTAG", 2}, {"ISNTAG", 8}, {"ICNTAG", 0}, {"PARTNO", "P-OLD"}});
+    add("INVPNMASTER", {{"ILCTAG", 2}, {"ISNTAG", 9}, {"ICNTAG", 0}, {"PARTNO", "P-GONE"}});
+    OpenTable numbers = site.open("ZORVEX.mdb", "INVPNMASTER");
+    const QString bookmark = itemOfPartNumber(session, numbers.rows.Bookmark());
+    OpenTable items = site.open("ZORVEX.mdb", "INVENTORY");
+    ASSERT_TRUE(goToFound(items.rows, bookmark));
+    EXPECT_EQ(trimmedTextOf(items.rows["PARTNO"]), "P-0");
+    numbers.rows.MoveNext();
+    user.expect("Error: zorVEXINVSearch",
+                "Cannot Find the Inventory Tag Number: 9\n"
+                "Cannot Select Proper Inventory Item Record.");
+    EXPECT_EQ(itemOfPartNumber(session, numbers.rows.Bookmark()), " ");
+}
+
+TEST_F(Items, SupersededNumbersHaveADateAndStandOnce)
+{
+    addItem(5, "P-1");
+    BrowseSession list(frmVEXINV08(), session);
+    list.open();
+    list.setParent({{"ILCTAG", 1}, {"ISNTAG", 5}});
+    list.add();
+    user.expect("Cannot Update",
+                "Errors Detected: 2\nSuperceded Part Number is Empty.\nInvalid Date.");
+    EXPECT_FALSE(list.update());
+    list.entry().setText("PARTNO", "p-0");
+    list.entry().setText("FDATE", "3/1/26");
+    EXPECT_TRUE(list.update());
+    list.add();
+    list.entry().setText("PARTNO", "P-1");
+    list.entry().setText("FDATE", "<Current>");
+    EXPECT_TRUE(list.update());
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVPNMASTER", {"PARTNO", "FDATE", "LDATE"}),
+              (QStringList{"P-0|03/01/2026|20260301", "P-1| <Current>|          "}));
+    EXPECT_EQ(list.list().lines()[0].cells[0], "P-1") << "the present number is the first";
+    list.add();
+    list.entry().setText("PARTNO", "P-0");
+    list.entry().setText("FDATE", "3/1/26");
+    user.expect("Cannot Update",
+                "Errors Detected: 1\nDuplicate Superceded Part Number Detected.\nThe Part Number "
+                "you have entered\nalready exists in another record.");
+    EXPECT_FALSE(list.update());
+}
+
+}  // namespace
