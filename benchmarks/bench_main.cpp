@@ -13,6 +13,7 @@ void registerSearchBenchmarks();
 void registerBrowseBenchmarks();
 void registerWorkbookBenchmarks();
 void registerCostBenchmarks();
+void registerLedgerBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 // Windows drawn in memory say of each that they are.
@@ -44,5 +45,6 @@ int main(int argc, char** argv)
     registerBrowseBenchmarks();
     registerWorkbookBenchmarks();
     registerCostBenchmarks();
+    registerLedgerBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }

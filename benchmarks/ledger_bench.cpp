@@ -1,0 +1,175 @@
+// The ledger: a posting to an item of many rows against one to an item of ten, and the rebuild of a
+// branch with all of the line items.
+#include <QElapsedTimer>
+#include <QFile>
+
+#include "benchmarks/bench_report.h"
+#include "benchmarks/bench_site.h"
+#include "core/messages.h"
+#include "core/storage/workspace.h"
+#include "inventory/ledger_posting.h"
+#include "inventory/ledger_rebuild.h"
+
+namespace {
+
+constexpr int itemCount = 20'000;
+constexpr int linesAnOrder = 5;
+constexpr int shortItem = 1;
+constexpr int middleItem = 2;
+constexpr int longItem = 3;
+
+// What a row replayed may cost, beyond a posting to an item of ten rows.
+const BenchGoal replayGoal{
+    .ratio = 1.0, .unit = "us/row", .perSecond = 1e-6, .bound = 1.0, .ownFigure = true};
+const BenchGoal wholeGoal{.ratio = 2.0, .unit = "ms", .perSecond = 1e-3, .ownFigure = true};
+// 100,000 rows a second.
+const BenchGoal rebuildGoal{
+    .ratio = 1.0, .unit = "us/row", .perSecond = 1e-6, .bound = 10.0, .ownFigure = true};
+
+class NoBoxes : public Messages
+{
+public:
+    NoBoxes() : m_before(install(this)) {}
+    ~NoBoxes() override { install(m_before); }
+    Answer show(const Message& message) override
+    {
+        shown = message.text;
+        return Answer::Ok;
+    }
+    QString shown;
+
+private:
+    Messages* m_before;
+};
+
+void addItems(const storage::Database& file)
+{
+    storage::Recordset items = file.OpenRecordset("INVENTORY");
+    for (int i = 1; i <= itemCount; ++i) {
+        items.AddNew();
+        items["ISNTAG"] = i;
+        items["ILCTAG"] = 1;
+        items["PARTNO"] = QString("P%1").arg(i);
+        items.Update();
+    }
+}
+
+void addLedgerRows(const storage::Database& file, int isnTag, int rows)
+{
+    storage::Recordset ledger = file.OpenRecordset("INVTRANS");
+    for (int i = 1; i <= rows; ++i) {
+        ledger.AddNew();
+        ledger["ISNTAG"] = isnTag;
+        ledger["ILCTAG"] = 1;
+        ledger["DOCTYPE"] = i % 2 ? "PO" : "MI";
+        ledger["ITEMTYPE"] = i % 2 ? "REC" : "MII";
+        ledger["DOCTAG"] = i;
+        ledger["FDATE"] = "03/07/2026";
+        ledger["LDATE"] = "20260307";
+        ledger["QUANTITY"] = 1;
+        ledger.Update();
+    }
+}
+
+// A site's folder: the line items, each naming an item, and orders, or the ledger of three items.
+QString makeSite(bool hasOrders)
+{
+    const QString folder = benchScratchFolder();
+    const QString made = folder + "/ZORVEX.mdb";
+    QFile::copy(benchLinesFile(), made);
+    storage::Workspace wks = storage::CreateWorkspace("wksVEX");
+    const storage::Database file = wks.OpenDatabase(made);
+    wks.BeginTrans();
+    addItems(file);
+    if (!hasOrders) {
+        addLedgerRows(file, shortItem, 10);
+        addLedgerRows(file, middleItem, 1'000);
+        addLedgerRows(file, longItem, 100'000);
+    } else {
+        storage::Recordset lines = file.OpenRecordset("RQILIST");
+        for (bool more = lines.MoveFirst(); more; more = lines.MoveNext()) {
+            lines.Edit();
+            lines["ISNTAG"] = 1 + lines["RQITAG"].value().toInt() * 7919 % itemCount;
+            lines.Update();
+        }
+        storage::Recordset orders = file.OpenRecordset("POLIST");
+        for (int i = 1; i <= benchLineCount / linesAnOrder; ++i) {
+            orders.AddNew();
+            orders["POTAG"] = i;
+            orders["PONO"] = QString::number(i);
+            orders["FDATE"] = "03/07/2026";
+            orders["LDATE"] = QString::number(20260101 + i % 28);
+            orders.Update();
+        }
+    }
+    wks.CommitTrans();
+    return folder;
+}
+
+double postingSeconds(const QString& folder, int isnTag)
+{
+    QElapsedTimer timer;
+    timer.start();
+    zorInvTransUpdate(folder, 1, "PO", 1, "REC", 0, isnTag, isnTag, "03/07/2026", "20260307", 2);
+    return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
+}
+
+// The cost of a row: what a posting costs beyond one to the short item.
+void posting(benchmark::State& state, int isnTag, int rows)
+{
+    static const QString folder = makeSite(false);
+    NoBoxes boxes;
+    for (auto _ : state) {
+        const double fixed = postingSeconds(folder, shortItem);
+        state.SetIterationTime(std::max(1e-9, postingSeconds(folder, isnTag) - fixed));
+        if (!boxes.shown.isEmpty())
+            state.SkipWithError(qPrintable(boxes.shown));
+    }
+    state.counters["items"] = rows;
+}
+
+// Short postings are a matter of two durable writes: as a whole, against the shortest.
+void wholePosting(benchmark::State& state, int isnTag)
+{
+    static const QString folder = makeSite(false);
+    for (auto _ : state)
+        state.SetIterationTime(postingSeconds(folder, isnTag));
+}
+
+void postingToShort(benchmark::State& state)
+{
+    wholePosting(state, shortItem);
+}
+
+void postingToMiddle(benchmark::State& state)
+{
+    wholePosting(state, middleItem);
+}
+
+void postingToLong(benchmark::State& state)
+{
+    posting(state, longItem, 100'000);
+}
+
+void rebuild(benchmark::State& state)
+{
+    static const QString folder = makeSite(true);
+    NoBoxes boxes;
+    for (auto _ : state) {
+        QElapsedTimer timer;
+        timer.start();
+        if (!rebuildLedger(folder, 1, [] { return true; }) || !boxes.shown.isEmpty())
+            state.SkipWithError("not rebuilt");
+        state.SetIterationTime(static_cast<double>(timer.nsecsElapsed()) * 1e-9);
+    }
+    state.counters["items"] = benchLineCount;
+}
+
+}  // namespace
+
+void registerLedgerBenchmarks()
+{
+    registerPair("ledger_posting_1000_rows", wholeGoal, postingToMiddle, postingToShort);
+    registerPair("ledger_posting_100000_rows", replayGoal, postingToLong, nullptr);
+    registerPair("ledger_rebuild_500000_lines", rebuildGoal, rebuild, nullptr, 2);
+}
