@@ -13,6 +13,7 @@
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
 #include "inventory/items.h"
+#include "inventory/ledger_refresh.h"
 #include "purchasing/code_lists.h"
 #include "purchasing/document_texts.h"
 #include "purchasing/terms_codes.h"
@@ -45,6 +46,11 @@ QWidget* reportSelector(const ScreenContext& context)
     });
 }
 
+QWidget* refreshLedger(const ScreenContext& context)
+{
+    return new frmVEXINVCALC(context.session);
+}
+
 constexpr ScreenFactory screens[] = {
     {"frmCCBQSHIP01", browse<frmCCBQSHIP01>},
     {"frmDBPBrowse", browse<frmDBPBrowse>},
@@ -55,6 +61,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXILC01", browse<frmVEXILC01>},
     {"frmVEXINV01", browse<frmVEXINV01>},
     {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
+    {"frmVEXINVCALC", refreshLedger},
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
     {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},

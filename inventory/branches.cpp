@@ -1,7 +1,10 @@
 #include "inventory/branches.h"
 
 #include "core/locators.h"
+#include "inventory/item_codes.h"
+#include "inventory/items.h"
 #include "screens/browse/browse_session.h"
+#include "screens/browse/browse_window.h"
 #include "screens/search/inventory_searches.h"
 
 namespace {
@@ -35,23 +38,57 @@ QString seriesDeleteTest(const BrowseSession& screen, storage::Recordset& rows)
                : QString();
 }
 
-QString binPrintTitle(const BrowseSession& screen)
+// The branch's code and name after the words; the words alone without one.
+QString branchTitle(const BrowseSession& screen, const QString& words)
 {
-    OpenTable branches = openTable(screen.session(), "ZORVEX.mdb", "ILCLIST");
-    branches.rows.Index("ILCTAG");
-    if (!branches.rows.Seek("=", screen.parentKey("ILCTAG")))
-        return "Bin Numbers";
-    return "Bin Numbers for Branch Code: " + trimmedTextOf(branches.rows["ILCCODE"]) + " - " +
-           trimmedTextOf(branches.rows["ILCNAME"]);
+    const auto branch =
+        codeRowAt(screen.session().JobSitePath, branchCodes, screen.parentKey("ILCTAG").toInt());
+    return branch ? words + " for Branch Code: " + branch->code + " - " + branch->name : words;
 }
 
-void openBelow(BrowseSession& screen)
+QString seriesPrintTitle(const BrowseSession& screen)
 {
-    if (screen.list().isOnRecord())
-        dnNotReady();
-    else
+    return branchTitle(screen, "Series Codes");
+}
+
+QString binPrintTitle(const BrowseSession& screen)
+{
+    return branchTitle(screen, "Bin Numbers");
+}
+
+bool isOnLine(const BrowseSession& screen)
+{
+    if (!screen.list().isOnRecord())
         showCritical("Cannot Proceed",
                      "You Must be on a Valid Line Item to Proceed. Move up to a Valid Line Item.");
+    return screen.list().isOnRecord();
+}
+
+void openSubcategories(BrowseSession& screen)
+{
+    if (isOnLine(screen))
+        openBrowseScreen(frmVEXINVS01(screen.session(), screen.currentTag()), screen.session(),
+                         {{"SERIESTAG", screen.currentTag()}});
+}
+
+void openItemsOfSeries(BrowseSession& screen)
+{
+    if (isOnLine(screen))
+        openBrowseScreen(inventoryItems({.level = 1,
+                                         .ILCTAG = screen.parentKey("ILCTAG").toInt(),
+                                         .SERIESTAG = screen.currentTag()}),
+                         screen.session());
+}
+
+QString subcategoryDeleteTest(const BrowseSession& screen, storage::Recordset& rows)
+{
+    const qint32 series = intOf(rows["SERIESTAG"]);
+    const auto row = codeRowAt(screen.session().JobSitePath, seriesCodes, series);
+    OpenTable items = openTable(screen.session(), "ZORVEX.mdb", "INVENTORY");
+    items.rows.Index("INVSUBPARTNO");
+    return row && items.rows.Seek("=", row->owner, series, rows["SUBCATTAG"].value())
+               ? "Cannot Delete. Inventory Items Detected with this Subcategory Code."
+               : QString();
 }
 
 }  // namespace
@@ -155,8 +192,62 @@ BrowseSpec frmVEXINVSC01()
                 return zorSearchSeries(screen.session().JobSitePath,
                                        screen.parentKey("ILCTAG").toInt());
             },
-        .print = {.run = [](BrowseSession&) { dnNotReady(); }},
-        .commands = {{"cmdDetail", "&Browse SubCategories", openBelow, false, Qt::Key_B},
-                     {"cmdInventory", "Browse &Inventory", openBelow, false, Qt::Key_I}},
+        .print = {.window = "Print List of Inventory Series Codes", .titleFor = seriesPrintTitle},
+        .commands = {{"cmdDetail", "&Browse SubCategories", openSubcategories, false, Qt::Key_B},
+                     {"cmdInventory", "Browse &Inventory", openItemsOfSeries, false, Qt::Key_I}},
+    };
+}
+
+BrowseSpec frmVEXINVS01(const Session& session, qint32 SERIESTAG)
+{
+    const CodeRow series =
+        codeRowAt(session.JobSitePath, seriesCodes, SERIESTAG).value_or(CodeRow{});
+    const auto openItems = [series](BrowseSession& screen) {
+        if (isOnLine(screen))
+            openBrowseScreen(inventoryItems({.level = 2,
+                                             .ILCTAG = series.owner,
+                                             .SERIESTAG = series.tag,
+                                             .SUBCATTAG = screen.currentTag()}),
+                             screen.session());
+    };
+    return {
+        .name = "frmVEXINVS01",
+        .caption = "Subategory Codes",
+        .table = "SUBCATEGORIES",
+        .index = "SUBCATCODE",
+        .parent = {.kind = BrowseParent::Kind::Given, .keys = {"SERIESTAG"}},
+        .columns = {{.field = "SUBCATCODE",
+                     .length = 4,
+                     .heading = "Code",
+                     .width = 1000,
+                     .entry = "txtSUBCATCODE",
+                     .keys = {.upperCase = true},
+                     .check = inOrder(
+                         {required("SUBCATCODE", "Subcategory Code is Empty."),
+                          unusedCode("SUBCATCODE", "Duplicate Subcategory Code Detected.")})},
+                    {.field = "SUBCATNAME",
+                     .length = 40,
+                     .heading = "Description",
+                     .width = 6000,
+                     .entry = "txtSUBCATNAME",
+                     .check = required("SUBCATNAME", "Description is Empty.")}},
+        .tag = {.field = "SUBCATTAG"},
+        .editRight = "INV02",
+        .deleteQuestion = askToDelete("Subcategory Code:", {"SUBCATCODE", "SUBCATNAME"}, " - ", ""),
+        .deleteTest = subcategoryDeleteTest,
+        .search =
+            [series](const BrowseSession& screen) {
+                return zorSearchSubcategory(screen.session().JobSitePath, series.tag, series.code);
+            },
+        .print = {.window = "Print Inventory Subcategories Related to a Category ",
+                  .title = "Subcategories of Series Code: " + series.code + " - " + series.name},
+        .commands = {{.name = "cmdInventory",
+                      .caption = "&Browse Inventory",
+                      .run = openItems,
+                      .key = Qt::Key_B}},
+        .status =
+            [series](const BrowseSession&) {
+                return "Series Code: " + series.code + " - " + series.name;
+            },
     };
 }

@@ -6,3 +6,5 @@
 BrowseSpec frmVEXILC01();
 BrowseSpec frmVEXINVBIN01();
 BrowseSpec frmVEXINVSC01();
+// The subcategories of a series, whose tag is given as SERIESTAG.
+BrowseSpec frmVEXINVS01(const Session& session, qint32 SERIESTAG);

@@ -210,6 +210,11 @@ bool openItem(BrowseSession& list, const QString& mode, qint32 tag, qint16 winTa
                            .tag = tag});
 }
 
+void openHistory(BrowseSession& list)
+{
+    openItemHistory(list.session(), list.currentTag());
+}
+
 void notReady(BrowseSession&)
 {
     dnNotReady();
@@ -293,7 +298,7 @@ std::vector<BrowseCommand> commands()
              .needsRecord = true},
             {.name = "cmdHistory",
              .caption = "&History",
-             .run = notReady,
+             .run = openHistory,
              .key = Qt::Key_H,
              .needsRecord = true},
             {.name = "cmdPostVendor",
@@ -377,6 +382,11 @@ std::optional<qint32> vendorToPost(const QString& jobSitePath, const QString& VE
 
 BrowseSpec frmVEXINV01()
 {
+    return inventoryItems({});
+}
+
+BrowseSpec inventoryItems(const ItemFilter& filter)
+{
     const auto isFirst = std::make_shared<bool>(true);
     return {
         .name = "frmVEXINV01",
@@ -398,7 +408,14 @@ BrowseSpec frmVEXINV01()
                    .tellsNoRecord = false},
         .commands = commands(),
         .status = itemText,
-        .parentChosen = [isFirst](BrowseSession& list) { showLast(list, *isFirst); },
+        .parentChosen =
+            [isFirst, filter](BrowseSession& list) {
+                if (filter.level > 0 && filter.ILCTAG == branchOf(list) &&
+                    std::exchange(*isFirst, false))
+                    browse(list, filter);
+                else
+                    showLast(list, *isFirst);
+            },
         .closing = keepLast,
     };
 }

@@ -18,6 +18,8 @@ struct ItemFilter
 };
 
 BrowseSpec frmVEXINV01();
+// The same, at first with the items of a series or a subcategory.
+BrowseSpec inventoryItems(const ItemFilter& filter);
 // `filter` tells what a new item begins with.
 DataSpec frmVEXINV02(const Session& session, const ItemFilter& filter);
 // Asks which vendor to post to the tagged items: its tag, 0 to clear them, nothing after a cancel.
@@ -26,3 +28,7 @@ std::optional<qint32> frmVEXINV06(const Session& session);
 std::optional<qint32> vendorToPost(const QString& jobSitePath, const QString& VENNO, bool clears);
 // The part numbers that an item has borne, by branch and item.
 BrowseSpec frmVEXINV08();
+// The history that stands in the user's buffer, under the item's head.
+BrowseSpec frmVEXINV04(const Session& session, qint32 ISNTAG);
+// Fills the buffer with an item's history and opens it.
+void openItemHistory(const Session& session, qint32 ISNTAG);
