@@ -12,6 +12,7 @@
 #include "cost/target_list_screen.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
+#include "inventory/item_prints.h"
 #include "inventory/items.h"
 #include "inventory/ledger_refresh.h"
 #include "purchasing/code_lists.h"
@@ -22,6 +23,7 @@
 #include "screens/desktop.h"
 #include "screens/network_settings.h"
 #include "screens/report/report_selector.h"
+#include "screens/report/report_window.h"
 
 namespace {
 
@@ -46,6 +48,12 @@ QWidget* reportSelector(const ScreenContext& context)
     });
 }
 
+template <ReportSpec (*spec)()>
+QWidget* report(const ScreenContext& context)
+{
+    return new ReportWindow(spec(), context.session);
+}
+
 QWidget* refreshLedger(const ScreenContext& context)
 {
     return new frmVEXINVCALC(context.session);
@@ -62,6 +70,10 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXINV01", browse<frmVEXINV01>},
     {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
     {"frmVEXINVCALC", refreshLedger},
+    {"frmVEXINVP04", report<frmVEXINVP04>},
+    {"frmVEXINVP05", report<frmVEXINVP05>},
+    {"frmVEXINVP06", report<frmVEXINVP06>},
+    {"frmVEXINVP07", report<frmVEXINVP07>},
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
     {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},

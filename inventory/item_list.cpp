@@ -7,6 +7,7 @@
 #include "core/text.h"
 #include "core/user_settings.h"
 #include "inventory/item_codes.h"
+#include "inventory/item_prints.h"
 #include "inventory/item_rules.h"
 #include "inventory/item_search.h"
 #include "inventory/items.h"
@@ -215,6 +216,12 @@ void openHistory(BrowseSession& list)
     openItemHistory(list.session(), list.currentTag());
 }
 
+void openPrint(BrowseSession& list)
+{
+    if (const qint32 tag = list.currentTag(); tag != 0)
+        openScreen(new ReportWindow(frmVEXINV03(tag), list.session()));
+}
+
 void notReady(BrowseSession&)
 {
     dnNotReady();
@@ -406,6 +413,7 @@ BrowseSpec inventoryItems(const ItemFilter& filter)
                    .open = openItem,
                    .hasView = true,
                    .tellsNoRecord = false},
+        .print = {.run = openPrint},
         .commands = commands(),
         .status = itemText,
         .parentChosen =

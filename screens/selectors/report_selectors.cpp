@@ -1,6 +1,7 @@
 #include "screens/selectors/report_selectors.h"
 
 #include "core/dates.h"
+#include "screens/selectors/branch_selector.h"
 #include "screens/selectors/company_selector.h"
 #include "screens/selectors/job_date_selector.h"
 
@@ -39,6 +40,29 @@ Values valuesOf(const tqCoJobDateRange& control)
             {"IsValid", tick(isValidPair && areValidDates)}};
 }
 
+Values valuesOf(const BranchSelector& control)
+{
+    const qint32 ILCTAG = control.tag();
+    return {{"ILCTAG", QString::number(ILCTAG)}, {"IsValid", tick(ILCTAG != 0)}};
+}
+
+void fill(BranchSelector& control, const ReportSelection& selection)
+{
+    control.setTag(selection["ILCTAG"].toInt());
+}
+
+// Where a control looks things up.
+void setPath(BranchSelector& control, const QString& jobSitePath)
+{
+    control.setFolder(jobSitePath);
+}
+
+template <class Control>
+void setPath(Control& control, const QString& jobSitePath)
+{
+    control.setDBPath(jobSitePath);
+}
+
 void fill(tqCoNumber& control, const ReportSelection& selection)
 {
     control.setCoNumber(selection["CONO"].toInt());
@@ -62,7 +86,7 @@ QWidget* makeSelector(const QString& name, ReportSelection& selection, const Ses
                       const std::function<void()>& changed)
 {
     auto* control = new Control(name);
-    control->setDBPath(session.JobSitePath);
+    setPath(*control, session.JobSitePath);
     fill(*control, selection);
     const auto take = [control, &selection] {
         bool isOther = false;
@@ -100,6 +124,11 @@ ReportField selectorField(const char* name, std::vector<RememberedValue> setting
 ReportField companyField(const char* name)
 {
     return selectorField<tqCoNumber>(name, {{"CONO", "CONO"}});
+}
+
+ReportField branchField(const char* name)
+{
+    return selectorField<BranchSelector>(name, {{"ILCTAG", "ILCTAG"}});
 }
 
 ReportField jobField(const char* name)

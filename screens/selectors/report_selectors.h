@@ -6,6 +6,8 @@
 
 // tqCoNumber: sets "CONO" (0 for none).
 ReportField companyField(const char* name = "tqCoNumber1");
+// A branch of the inventory: sets "ILCTAG" (0 for none).
+ReportField branchField(const char* name = "BranchSelector1");
 // tqCoJobNumber: sets "CONO" and "JOBNO", the latter in its stored form, blanks included.
 ReportField jobField(const char* name = "tqCoJobNumber1");
 // tqCoJobDateRange: these, the dates "BDATE" and "EDATE" as shown (ten blanks for what is none),
