@@ -222,6 +222,12 @@ void openPrint(BrowseSession& list)
         openScreen(new ReportWindow(frmVEXINV03(tag), list.session()));
 }
 
+void openBranchChange(BrowseSession& list)
+{
+    openDataScreen(frmVEXINV10(), list.session(),
+                   {.mode = "E", .index = "INVISNTAG", .keys = {{"ISNTAG", list.currentTag()}}});
+}
+
 void notReady(BrowseSession&)
 {
     dnNotReady();
@@ -314,7 +320,7 @@ std::vector<BrowseCommand> commands()
              .key = Qt::Key_O},
             {.name = "cmdChangeBranch",
              .caption = "Change &Branch",
-             .run = notReady,
+             .run = openBranchChange,
              .key = Qt::Key_B,
              .needsRecord = true},
             {.name = "cmdADJUSTMENTS",
@@ -425,5 +431,6 @@ BrowseSpec inventoryItems(const ItemFilter& filter)
                     showLast(list, *isFirst);
             },
         .closing = keepLast,
+        .readsAnewInFront = true,
     };
 }

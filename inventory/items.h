@@ -26,6 +26,8 @@ DataSpec frmVEXINV02(const Session& session, const ItemFilter& filter);
 std::optional<qint32> frmVEXINV06(const Session& session);
 // What its Post takes; nothing after the user was told why not.
 std::optional<qint32> vendorToPost(const QString& jobSitePath, const QString& VENNO, bool clears);
+// Moves the item on which it opens, in mode "E", to another branch.
+DataSpec frmVEXINV10();
 // The part numbers that an item has borne, by branch and item.
 BrowseSpec frmVEXINV08();
 // The history that stands in the user's buffer, under the item's head.

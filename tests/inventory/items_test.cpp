@@ -300,4 +300,54 @@ TEST_F(Items, SupersededNumbersHaveADateAndStandOnce)
     EXPECT_FALSE(list.update());
 }
 
+TEST_F(Items, MoveToABranchThatLacksTheirCodes)
+{
+    addItem(5, "P-1");
+    addItem(6, "P-1", 2);
+    add("INVPNMASTER", {{"ILCTAG", 1}, {"ISNTAG", 5}, {"ICNTAG", 0}, {"PARTNO", "P-1"}});
+    add("BINLIST", {{"ILCTAG", 2}, {"BINTAG", 32}, {"BINNO", "A1"}, {"BINNAME", "Row A"}});
+    DataSession moved(frmVEXINV10(), session,
+                      {.mode = "E", .index = "INVISNTAG", .keys = {{"ISNTAG", 5}}});
+    ASSERT_TRUE(moved.open());
+    const auto command = [&](const QString& name) {
+        for (const DataCommand& one : moved.spec().commands)
+            if (one.name == name)
+                return moved.run(one);
+        ADD_FAILURE() << name.toStdString();
+    };
+    const auto refuseCommand = [&](const QString& name, const QString& text) {
+        user.expect("Cannot Update", text);
+        command(name);
+        EXPECT_TRUE(user.allCame()) << text.toStdString();
+    };
+    Entry& entry = moved.entry();
+    refuseCommand("cmdSERIESAdd", "New Branch Code is Empty.");
+    refuseCommand("cmdSERIESEdit", "Branch Code is Empty.");
+    type(entry, "txtNEWILCCODE", "1");
+    refuse(moved,
+           "New Branch Code is Same as Old Branch Code.\nSeries Code is Empty.\n"
+           "Subcategory Code is Blank\nPart Number Already Exists for New Branch Code: 1");
+    type(entry, "txtNEWILCCODE", "2");
+    type(entry, "txtNEWSERIESCODE", "100");
+    refuseCommand("cmdSERIESEdit",
+                  "Edit Not Allowed. This Series Code\nDoes Not Yet Exist for Branch Code: 2\n"
+                  "Use the Add Button Instead to add this Series Code.");
+    refuseCommand("cmdSERIESAdd", "Series Code Description is Empty.");
+    type(entry, "txtNEWSERIESNAME", "Pipe");
+    command("cmdSERIESAdd");
+    refuseCommand("cmdSERIESAdd", "Series Code: 100 Already Exists for Branch Code");
+    type(entry, "txtNEWSUBCATCODE", "STL");
+    type(entry, "txtNEWSUBCATNAME", "Steel");
+    command("cmdSUBCATAdd");
+    type(entry, "txtNEWBINNO", "A1");
+    refuse(moved, "Part Number Already Exists for New Branch Code: 2");
+    type(entry, "txtNEWPARTNO", "P-9");
+    user.expect("Changes Made", "Changes Made: Inventory Item Branch Code Changed to: 2");
+    EXPECT_TRUE(moved.update());
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"ISNTAG", "ILCTAG", "BINTAG", "PARTNO"}),
+              (QStringList{"5|2|32|P-9", "6|2|31|P-1"}));
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "SERIESCODES", {"ILCTAG", "SERIESCODE"}),
+              (QStringList{"1|100", "2|100"}));
+}
+
 }  // namespace
