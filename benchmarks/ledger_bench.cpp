@@ -89,7 +89,8 @@ QString makeSite(bool hasOrders)
         storage::Recordset lines = file.OpenRecordset("RQILIST");
         for (bool more = lines.MoveFirst(); more; more = lines.MoveNext()) {
             lines.Edit();
-            lines["ISNTAG"] = 1 + lines["RQITAG"].value().toInt() * 7919 % itemCount;
+            lines["ISNTAG"] =
+                1 + static_cast<int>(lines["RQITAG"].value().toLongLong() * 7919 % itemCount);
             lines.Update();
         }
         storage::Recordset orders = file.OpenRecordset("POLIST");
