@@ -12,6 +12,7 @@
 #include "cost/target_list_screen.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
+#include "inventory/issue_summary.h"
 #include "inventory/item_prints.h"
 #include "inventory/items.h"
 #include "inventory/ledger_refresh.h"
@@ -70,6 +71,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXINV01", browse<frmVEXINV01>},
     {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
     {"frmVEXINVCALC", refreshLedger},
+    {"frmVEXINVISR", report<frmVEXINVISR>},
     {"frmVEXINVP04", report<frmVEXINVP04>},
     {"frmVEXINVP05", report<frmVEXINVP05>},
     {"frmVEXINVP06", report<frmVEXINVP06>},
