@@ -16,6 +16,7 @@
 #include "inventory/item_prints.h"
 #include "inventory/items.h"
 #include "inventory/ledger_refresh.h"
+#include "inventory/transaction_history.h"
 #include "purchasing/code_lists.h"
 #include "purchasing/document_texts.h"
 #include "purchasing/terms_codes.h"
@@ -76,6 +77,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXINVP05", report<frmVEXINVP05>},
     {"frmVEXINVP06", report<frmVEXINVP06>},
     {"frmVEXINVP07", report<frmVEXINVP07>},
+    {"frmVEXINVP08", report<frmVEXINVP08>},
     {"frmVEXINVSC01", browse<frmVEXINVSC01>},
     {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},

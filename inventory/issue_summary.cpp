@@ -112,13 +112,6 @@ const IssueColumn issueColumns[] = {
     {{}, "Difference", 850},
 };
 
-// Long headings over narrow figures.
-QString inTwoRows(QString heading)
-{
-    const qsizetype blank = heading.lastIndexOf(' ');
-    return blank > 0 ? heading.replace(blank, 1, '\n') : heading;
-}
-
 ReportPlan planOf(const ReportRun& run)
 {
     const IssueSummaryRequest request = requestOf(run);
@@ -134,7 +127,7 @@ ReportPlan planOf(const ReportRun& run)
                     .orientation = "L",
                     .columns = {}};
     for (const IssueColumn& column : issueColumns)
-        plan.columns.push_back({.heading = inTwoRows(column.heading),
+        plan.columns.push_back({.heading = headingInTwoRows(column.heading),
                                 .width = column.width,
                                 .mask = column.isNumber ? QString(mask) : QString(),
                                 .workbookHeading = column.heading});

@@ -339,9 +339,12 @@ bool BrowseGrid::eventFilter(QObject* watched, QEvent* event)
         }
         if (takeMoveKey(key->key()))
             return true;
+        // Left accepted: an ignored Tab would go on to the parent, which moves the focus again.
+        if (key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab)
+            return false;
         // The letters are the window's; the view would look for a row that begins so.
         event->ignore();
-        return !key->text().isEmpty() && key->key() != Qt::Key_Tab && key->key() != Qt::Key_Backtab;
+        return !key->text().isEmpty();
     }
     if (watched != m_view->viewport())
         return false;

@@ -20,7 +20,10 @@ void runListReport(ReportRun& run, const ReportPlan& plan, const ReportWalk& wal
     if (!dnReportBegin(run, orientationOf(plan, run.pages)))
         return;
     PageSink paper(run.pages);
-    std::vector<ReportSink*> sinks = {&paper};
+    const QString paperBox = run.spec().paperBox;
+    std::vector<ReportSink*> sinks;
+    if (paperBox.isEmpty() || run.selection.isTicked(paperBox))
+        sinks.push_back(&paper);
     for (const auto& further : run.furtherSinks())
         sinks.push_back(further.get());
     ReportLines lines(plan, run, std::move(sinks));

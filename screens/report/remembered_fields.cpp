@@ -24,7 +24,7 @@ std::vector<RememberedValue> rememberedOf(const ReportSpec& spec)
         all.insert(all.end(), field.settings.begin(), field.settings.end());
     }
     if (!spec.workbookSetting.isNone())
-        all.push_back({"ckbCreateExcel", spec.workbookSetting});
+        all.push_back({spec.workbookBox, spec.workbookSetting});
     return all;
 }
 

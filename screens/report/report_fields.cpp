@@ -212,24 +212,24 @@ std::function<void()> addReportField(QFormLayout* rows, const ReportField& field
 void addWorkbookFields(QFormLayout* rows, ReportRun& run)
 {
     auto* box = new QCheckBox("Create &Spreadsheet?");
-    box->setObjectName("ckbCreateExcel");
+    box->setObjectName(run.spec().workbookBox);
     auto* caption = new QLabel("Excel File Name:");
     caption->setObjectName("lblCExcelFileName");
     auto* name = new QLabel;
     name->setObjectName("lblExcelFileName");
     name->setTextFormat(Qt::PlainText);
     const auto showName = [caption, name, &run] {
-        const bool ticked = run.selection.isTicked("ckbCreateExcel");
+        const bool ticked = run.selection.isTicked(run.spec().workbookBox);
         name->setText(run.workbookPath());
         caption->setVisible(ticked);
         name->setVisible(ticked);
     };
     rows->addRow(box);
     rows->addRow(caption, name);
-    box->setChecked(run.selection.isTicked("ckbCreateExcel"));
+    box->setChecked(run.selection.isTicked(run.spec().workbookBox));
     showName();
     QObject::connect(box, &QCheckBox::toggled, box, [showName, &run](bool ticked) {
-        run.selection.tick("ckbCreateExcel", ticked);
+        run.selection.tick(run.spec().workbookBox, ticked);
         run.selectionChanged();
         showName();
     });

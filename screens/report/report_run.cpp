@@ -89,7 +89,7 @@ void ReportRun::begin(size_t which)
     rememberFields(*this);
     if (m_spec.remember)
         m_spec.remember(*this);
-    if (offersWorkbook() && selection.isTicked("ckbCreateExcel")) {
+    if (offersWorkbook() && selection.isTicked(m_spec.workbookBox)) {
         m_status = "Preparing to Create Spreadsheet...";
         m_furtherSinks.push_back(std::make_unique<WorkbookSink>(workbookPath()));
     }
@@ -105,7 +105,9 @@ void ReportRun::selectionChanged()
 
 QString ReportRun::workbookPath() const
 {
-    return storage::joinPath(m_session.UserSettingsPath, m_spec.workbookName(*this));
+    const QString name = m_spec.workbookName(*this);
+    const bool isPath = name.contains('/') || name.contains('\\');
+    return isPath ? name : storage::joinPath(m_session.UserSettingsPath, name);
 }
 
 void ReportRun::cancelAll()

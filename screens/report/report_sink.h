@@ -28,6 +28,13 @@ struct ReportColumn
     bool isTotalled = false;  // numbers are added up for every level and for the report
 };
 
+// A long heading for a narrow column of paper: its last word stands below the others.
+inline QString headingInTwoRows(QString heading)
+{
+    const qsizetype blank = heading.lastIndexOf(' ');
+    return blank > 0 ? heading.replace(blank, 1, '\n') : heading;
+}
+
 // A level of total. A line whose key of this level or of one further out differs from the line
 // before it closes the level with its total.
 struct ReportLevel

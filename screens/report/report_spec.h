@@ -15,7 +15,7 @@ class QWidget;
 class ReportRun;
 
 // The values of a report's own fields by their system names; ticked boxes are "-1", others "0".
-// The box for a workbook is "ckbCreateExcel".
+// The box for a workbook is "ckbCreateExcel", where the report names no other.
 class ReportSelection
 {
 public:
@@ -103,8 +103,12 @@ struct ReportSpec
     std::function<void(ReportRun&)> print = {};
     // In place of `print` and cmdBegin where the screen prints several things.
     std::vector<ReportBegin> begins = {};
-    // The name of the workbook in the user's folder, such as "POLOG.xls"; none: paper only.
+    // The name of the workbook in the user's folder, such as "POLOG.xls", or its full path; none:
+    // paper only.
     std::function<QString(const ReportRun&)> workbookName = {};
+    // The box that asks for it, and one that asks for paper; none: paper always.
+    const char* workbookBox = "ckbCreateExcel";
+    const char* paperBox = "";
     std::optional<PaperSize> paper = {};  // none: that of the printer
     QString finishedText = "Report Finished, Press 'P' to Print";
 };

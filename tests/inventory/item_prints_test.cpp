@@ -2,6 +2,7 @@
 #include "inventory/item_prints.h"
 
 #include "inventory/issue_summary.h"
+#include "inventory/transaction_history.h"
 #include "screens/report/report_run.h"
 #include "tests/support/page_text.h"
 #include "tests/support/scripted_messages.h"
@@ -124,6 +125,33 @@ TEST_F(ItemPrints, IssueSummaryTellsItsPeriodsAndRefusesWhatIsNone)
         print(frmVEXINVISR(), selection);
         EXPECT_TRUE(user.allCame()) << bad.told;
     }
+}
+
+TEST_F(ItemPrints, TransactionHistoryNeedsItemsThatAreThereAndPrintsOnPaperOnRequest)
+{
+    add("INVTRANS", {{"ISNTAG", 5},
+                     {"ILCTAG", 1},
+                     {"DOCTYPE", "IA"},
+                     {"ITEMTYPE", "IAI"},
+                     {"DOCTAG", 7},
+                     {"FDATE", "03/10/2026"},
+                     {"LDATE", "20260310"},
+                     {"QUANTITY", 4}});
+    std::vector<std::pair<QString, QString>> wanted = {{"txtBPARTNO", "P-1"},
+                                                       {"txtEPARTNO", "P-2"},
+                                                       {"txtBDATE", "03/01/2026"},
+                                                       {"txtEDATE", "03/15/2026"},
+                                                       {"ckbVEXINVP08PPR", "-1"}};
+    const QString page = print(frmVEXINVP08(), wanted);
+    EXPECT_TRUE(page.contains("Adjustment") && page.contains("P-2"));
+    wanted.back().second = "0";
+    EXPECT_FALSE(print(frmVEXINVP08(), wanted).contains("P-2"));
+    wanted[1].second = "P-7";
+    user.expect("Cannot Print Report", "Cannot Find Ending Part Number: P-7");
+    print(frmVEXINVP08(), wanted);
+    wanted[0].second = "X";
+    user.expect("Cannot Print Report", "Cannot Find Beginning Part Number: X");
+    print(frmVEXINVP08(), wanted);
 }
 
 }  // namespace

@@ -168,9 +168,10 @@ TEST_F(DataWindows, LevelsFollowTheListAtTheirLeft)
     QCoreApplication::processEvents();
     EXPECT_EQ(window.levelInHand(), 0U);
     key(Qt::Key_Up);
-    window.grid(1).takeFocus();
+    key(Qt::Key_Tab);
     QCoreApplication::processEvents();
     ASSERT_EQ(window.levelInHand(), 1U);
+    EXPECT_TRUE(window.grid(1).view()->hasFocus()) << "a Tab moves by one";
     key(Qt::Key_A);
     QTest::keyClicks(QApplication::focusWidget(), "200");
     press(window, "cmdUpdate");
