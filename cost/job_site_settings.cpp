@@ -55,14 +55,16 @@ void tellIncomplete()
 
 void refreshWithProgress(const QString& jobSitePath, const JobNoFormat& format)
 {
-    Progress progress(QApplication::activeWindow(), "Refresh Job Numbers");
-    const RefreshResult result =
-        refreshJobNumbers(jobSitePath, format, [&](const RefreshProgress& now) {
+    RefreshResult result;
+    {
+        Progress progress(QApplication::activeWindow(), "Refresh Job Numbers");
+        result = refreshJobNumbers(jobSitePath, format, [&](const RefreshProgress& now) {
             QString text = "Database: " + now.database + "\nTable: " + now.table;
             if (now.rows > 0)
                 text += "\nRows: " + QString::number(now.rows);
             return progress.tell(text);
         });
+    }
     if (result.isComplete)
         showInformation("Process Finished.", "Job Numbers have been Refreshed.");
     else
