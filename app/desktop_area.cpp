@@ -93,6 +93,8 @@ void DesktopArea::place(QMdiSubWindow* window, bool centred) const
     QSize size = window->sizeHint();
     if (kept.isValid())  // never smaller than what it has come to need since
         size = kept.size().expandedTo(window->minimumSizeHint());
+    else if (screen->property(fillsDesktopProperty).toBool())
+        size = room;
     else if (screen->testAttribute(Qt::WA_Resized))  // a size of the screen's own choice
         size = size.expandedTo(screen->size());
     window->resize(size.boundedTo(room));

@@ -157,7 +157,8 @@ bool forEachWithin(storage::Recordset& rs, const QString& indexName, KeyFields k
     for (const KeyField& key : keys)
         values.push_back(key.key);
     rs.Index(indexName);
-    bool more = rs.RecordCount() > 0 && rs.seekKeys("=", values);
+    bool more = rs.RecordCount() > 0 &&
+                (values.empty() ? rs.MoveFirst() : rs.seekKeys("=", values));
     for (; more && dnInbounds(rs, keys); more = rs.MoveNext())
         if (!take())
             return false;

@@ -68,8 +68,8 @@ bool dnInbounds(storage::Recordset& rs, KeyFields keys);
 // The comparison of one field in it.
 bool holdsKey(const storage::Field& field, const storage::Value& key);
 
-// Goes through the records whose first fields along the index equal the keys, in order, while
-// `take` gives true. `take` may delete the record or write what is no key of the index; whoever
+// Goes through the records whose first fields along the index equal the keys (all without keys), in
+// order, while `take` gives true. `take` may delete the record or write what is no key of the index; whoever
 // moves records along it collects their bookmarks first. False when it was stopped.
 bool forEachWithin(storage::Recordset& rs, const QString& indexName, KeyFields keys,
                    const std::function<bool()>& take);

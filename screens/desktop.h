@@ -20,5 +20,8 @@ public:
 // Sent to a screen each time it comes to the front of the desktop.
 inline constexpr auto screenInFront = static_cast<QEvent::Type>(QEvent::User + 1);
 
+// A property of a screen that opens as large as the desktop is, unless the user has resized it.
+inline constexpr char fillsDesktopProperty[] = "fillsDesktop";
+
 // Opens the screen on the current desktop.
 void openScreen(QWidget* screen);

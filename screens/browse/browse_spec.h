@@ -160,6 +160,8 @@ struct BrowseSpec
     std::function<void(BrowseSession&)> opened = {};
     std::function<void(BrowseSession&)> parentChosen = {};
     std::function<void(BrowseSession&)> closing = {};
+    // Opens as large as the main window has room for it.
+    bool fillsDesktop = false;
     // Other screens change what it shows: it reads its rows anew when it comes to the front.
     bool readsAnewInFront = false;
     // Shown once on the way out when an existing record was edited.

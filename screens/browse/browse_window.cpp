@@ -42,6 +42,7 @@ BrowseWindow::BrowseWindow(BrowseLevels levels, const ScreenContext& context,
             {std::make_unique<BrowseSession>(std::move(level), m_context.session), nullptr});
     setObjectName(spec().name);
     setWindowTitle(spec().caption);
+    setProperty(fillsDesktopProperty, spec().fillsDesktop);
     setProperty(helpPageProperty, "browse");
     build();
     m_loaded = loadScreen(this, [this] { load(); });
