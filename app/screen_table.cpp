@@ -12,6 +12,7 @@
 #include "cost/target_list_screen.h"
 #include "inventory/address_books.h"
 #include "inventory/branches.h"
+#include "inventory/catalog_copies.h"
 #include "inventory/issue_summary.h"
 #include "inventory/item_prints.h"
 #include "inventory/items.h"
@@ -26,6 +27,7 @@
 #include "screens/network_settings.h"
 #include "screens/report/report_selector.h"
 #include "screens/report/report_window.h"
+#include "screens/small_dialog.h"
 
 namespace {
 
@@ -61,6 +63,11 @@ QWidget* refreshLedger(const ScreenContext& context)
     return new frmVEXINVCALC(context.session);
 }
 
+QWidget* refreshPartNumbersList(const ScreenContext& context)
+{
+    return frmVEXREFRESHPN(context.session);
+}
+
 constexpr ScreenFactory screens[] = {
     {"frmCCBQSHIP01", browse<frmCCBQSHIP01>},
     {"frmDBPBrowse", browse<frmDBPBrowse>},
@@ -72,6 +79,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXINV01", browse<frmVEXINV01>},
     {"frmVEXINVBIN01", browse<frmVEXINVBIN01>},
     {"frmVEXINVCALC", refreshLedger},
+    {"frmVEXINVCAT01", browse<frmVEXINVCAT01>},
     {"frmVEXINVISR", report<frmVEXINVISR>},
     {"frmVEXINVP04", report<frmVEXINVP04>},
     {"frmVEXINVP05", report<frmVEXINVP05>},
@@ -82,6 +90,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},
     {"frmVEXMFG01", browse<frmVEXMFG01>},
+    {"frmVEXREFRESHPN", refreshPartNumbersList},
     {"frmVEXRT01", browse<frmVEXRT01>},
     {"frmVEXReportSelector", reportSelector},
     {"frmVEXSHIPTO01", browse<frmVEXSHIPTO01>},

@@ -1,4 +1,5 @@
-// The history of an item, line by line with both balances, and its print.
+// The history of an item, of a branch or of the catalog, line by line with both balances, and its
+// print.
 #include "core/number_format.h"
 #include "core/zap.h"
 #include "inventory/item_codes.h"
@@ -13,6 +14,23 @@
 namespace {
 
 constexpr char quantityMask[] = "###,###.00";
+
+// What is particular to the two screens.
+struct HistoryScreens
+{
+    const char* list;
+    const char* print;
+    const char* buffer;  // and its index
+    int (*fill)(const QString& jobSitePath, qint32 tag, OpenTable& buffer);
+};
+const HistoryScreens& screensOf(const ItemKind& kind)
+{
+    static constexpr HistoryScreens ofBranch{"frmVEXINV04", "frmVEXINV05", "INVHISTORY",
+                                             fillItemHistory};
+    static constexpr HistoryScreens ofCatalog{"frmVEXINVCAT04", "frmVEXINVCAT05", "INVCATHISTORY",
+                                              fillCatalogHistory};
+    return kind.isOfBranch ? ofBranch : ofCatalog;
+}
 
 // What stands above the lines, on the screen and on paper.
 struct ItemHead
@@ -30,11 +48,11 @@ QString codeText(const QString& jobSitePath, const CodeTable& codes, qint32 tag)
     return row ? row->code + " - " + row->name : QString();
 }
 
-std::optional<ItemHead> headOf(const Session& session, qint32 ISNTAG)
+std::optional<ItemHead> headOf(const ItemKind& kind, const Session& session, qint32 tag)
 {
-    OpenTable items = openTable(session, "ZORVEX.mdb", "INVENTORY");
-    items.rows.Index("INVISNTAG");
-    if (!items.rows.Seek("=", ISNTAG))
+    OpenTable items = openTable(session, "ZORVEX.mdb", kind.table);
+    items.rows.Index(kind.byTag);
+    if (!items.rows.Seek("=", tag))
         return {};
     const storage::Recordset& item = items.rows;
     const QString& site = session.JobSitePath;
@@ -45,16 +63,17 @@ std::optional<ItemHead> headOf(const Session& session, qint32 ISNTAG)
                     .subcategory = codeText(site, subcategoryCodes, intOf(item["SUBCATTAG"]))};
 }
 
-OpenTable openHistory(const Session& session)
+OpenTable openHistory(const ItemKind& kind, const Session& session)
 {
-    return openTable(session, "ZORUSER.mdb", "INVHISTORY");
+    OpenTable history = openTable(session, "ZORUSER.mdb", screensOf(kind).buffer);
+    history.rows.Index(screensOf(kind).buffer);
+    return history;
 }
 
-void addLines(ReportRun& run, ReportLines& lines)
+void addLines(const ItemKind& kind, ReportRun& run, ReportLines& lines)
 {
-    OpenTable history = openHistory(run.session());
+    OpenTable history = openHistory(kind, run.session());
     storage::Recordset& rows = history.rows;
-    rows.Index("INVHISTORY");
     run.expectRows(rows.RecordCount());
     for (bool more = rows.RecordCount() > 0 && rows.MoveFirst(); more; more = rows.MoveNext())
         if (!lines.add({.cells = {trimmedTextOf(rows["DOCDESC"]), trimmedTextOf(rows["DOCNO"]),
@@ -63,10 +82,10 @@ void addLines(ReportRun& run, ReportLines& lines)
             return;
 }
 
-ReportSpec historyPrint(const ItemHead& head)
+ReportSpec historyPrint(const ItemKind& kind, const ItemHead& head)
 {
     const ReportPlan plan{
-        .title = "Inventory Item History",
+        .title = QString(kind.noun) + " History",
         .headingLines = {"Series Code: " + head.series, "Subcategory Code: " + head.subcategory,
                          "Part Number: " + head.PARTNO + "  " + head.SHORTDESC},
         .columns = {{.heading = "Document Description", .width = 3600},
@@ -75,14 +94,16 @@ ReportSpec historyPrint(const ItemHead& head)
                     {.heading = "Doc. Quantity", .width = 1400, .mask = quantityMask},
                     {.heading = "On Order", .width = 1400, .mask = quantityMask},
                     {.heading = "On Hand", .width = 1400, .mask = quantityMask}}};
-    return {.name = "frmVEXINV05",
-            .caption = "Print Inventory Item History",
-            .check = [](const ReportRun& run) -> std::optional<ReportRefusal> {
-                if (openHistory(run.session()).rows.RecordCount() > 0)
+    return {.name = screensOf(kind).print,
+            .caption = QString("Print ") + kind.noun + " History",
+            .check = [&kind](const ReportRun& run) -> std::optional<ReportRefusal> {
+                if (openHistory(kind, run.session()).rows.RecordCount() > 0)
                     return {};
                 return ReportRefusal{"Cannot Continue", "Inventory History Table is Empty."};
             },
-            .print = listReport([plan](const ReportRun&) { return plan; }, addLines)};
+            .print = listReport(
+                [plan](const ReportRun&) { return plan; },
+                [&kind](ReportRun& run, ReportLines& lines) { addLines(kind, run, lines); })};
 }
 
 BrowseColumn number(schema::FieldName field, const QString& heading)
@@ -95,17 +116,15 @@ BrowseColumn number(schema::FieldName field, const QString& heading)
             .alignment = Qt::AlignRight};
 }
 
-}  // namespace
-
-BrowseSpec frmVEXINV04(const Session& session, qint32 ISNTAG)
+BrowseSpec historyList(const ItemKind& kind, const Session& session, qint32 tag)
 {
-    const ItemHead head = headOf(session, ISNTAG).value_or(ItemHead{});
+    const ItemHead head = headOf(kind, session, tag).value_or(ItemHead{});
     return {
-        .name = "frmVEXINV04",
-        .caption = "Inventory Item History",
+        .name = screensOf(kind).list,
+        .caption = QString(kind.noun) + " History",
         .file = "ZORUSER.mdb",
-        .table = "INVHISTORY",
-        .index = "INVHISTORY",
+        .table = screensOf(kind).buffer,
+        .index = screensOf(kind).buffer,
         .columns =
             {{.field = "DOCDESC", .length = 50, .heading = "Document Description", .width = 4200},
              {.field = "DOCNO", .length = 16, .heading = "Document No.", .width = 1900},
@@ -117,8 +136,8 @@ BrowseSpec frmVEXINV04(const Session& session, qint32 ISNTAG)
         .mayEdit = false,
         .mayDelete = false,
         .print = {.run =
-                      [head](BrowseSession& list) {
-                          openScreen(new ReportWindow(historyPrint(head), list.session()));
+                      [&kind, head](BrowseSession& list) {
+                          openScreen(new ReportWindow(historyPrint(kind, head), list.session()));
                       }},
         .status =
             [head](const BrowseSession&) {
@@ -129,13 +148,25 @@ BrowseSpec frmVEXINV04(const Session& session, qint32 ISNTAG)
     };
 }
 
-void openItemHistory(const Session& session, qint32 ISNTAG)
+}  // namespace
+
+BrowseSpec frmVEXINV04(const Session& session, qint32 ISNTAG)
 {
-    OpenTable history = openHistory(session);
-    dnZap(session.UserSettingsPath, "ZORUSER.mdb", history.rows);
-    if (!headOf(session, ISNTAG))
-        return showCritical("Error", "Cannot Find ISNTAG: " + QString::number(ISNTAG));
-    history = openHistory(session);
-    fillItemHistory(session.JobSitePath, ISNTAG, history);
-    openBrowseScreen(frmVEXINV04(session, ISNTAG), session);
+    return historyList(branchItems, session, ISNTAG);
+}
+
+BrowseSpec frmVEXINVCAT04(const Session& session, qint32 ICNTAG)
+{
+    return historyList(catalogItems, session, ICNTAG);
+}
+
+void openItemHistory(const ItemKind& kind, const Session& session, qint32 tag)
+{
+    const HistoryScreens& screens = screensOf(kind);
+    OpenTable history = emptiedTable(session.UserSettingsPath, "ZORUSER.mdb", screens.buffer);
+    if (!headOf(kind, session, tag))
+        return showCritical("Error", "Cannot Find " + QString::fromLatin1(kind.tag.text()) + ": " +
+                                         QString::number(tag));
+    screens.fill(session.JobSitePath, tag, history);
+    openBrowseScreen(historyList(kind, session, tag), session);
 }

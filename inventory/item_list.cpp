@@ -1,28 +1,29 @@
-// The browse of a branch's items, with what is asked from it.
-#include <QCheckBox>
-#include <QLineEdit>
-
+// The browse of items, those of a branch or those of the catalog, with what is asked from it.
 #include "core/locators.h"
 #include "core/number_format.h"
 #include "core/text.h"
 #include "core/user_settings.h"
+#include "inventory/catalog_copies.h"
+#include "inventory/catalog_rules.h"
 #include "inventory/item_codes.h"
 #include "inventory/item_prints.h"
 #include "inventory/item_rules.h"
 #include "inventory/item_search.h"
+#include "inventory/item_vendor.h"
 #include "inventory/items.h"
 #include "multiuser/users.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_window.h"
 #include "screens/desktop.h"
 #include "screens/report/report_window.h"
-#include "screens/search/vendor_searches.h"
-#include "screens/selectors/look_up_field.h"
 #include "screens/small_dialog.h"
 
 namespace {
 
-constexpr char editRight[] = "INV02";
+const ItemKind& kindOf(const BrowseSession& list)
+{
+    return list.spec().table == catalogItems.table ? catalogItems : branchItems;
+}
 
 const QString& siteOf(const BrowseSession& list)
 {
@@ -54,13 +55,16 @@ ItemFilter filterOf(const BrowseSession& list)
 
 void browse(BrowseSession& list, const ItemFilter& filter)
 {
-    std::vector<KeyField> keys = {{"ILCTAG", filter.ILCTAG}};
+    const ItemKind& kind = kindOf(list);
+    std::vector<KeyField> keys;
+    if (kind.isOfBranch)
+        keys.push_back({"ILCTAG", filter.ILCTAG});
     if (filter.level >= 1)
         keys.push_back({"SERIESTAG", filter.SERIESTAG});
     if (filter.level >= 2)
         keys.push_back({"SUBCATTAG", filter.SUBCATTAG});
-    constexpr const char* indexes[] = {"INVPARTNO", "INVSERIESPARTNO", "INVSUBPARTNO"};
-    list.browseBy(indexes[filter.level], keys);
+    constexpr const char* orders[] = {"PARTNO", "SERIESPARTNO", "SUBPARTNO"};
+    list.browseBy(kind.index(orders[filter.level]), keys);
 }
 
 void nextFilter(BrowseSession& list)
@@ -94,47 +98,59 @@ QString codeText(storage::Recordset& codes, const CodeTable& table, int tag)
     return trimmedTextOf(codes[table.code]) + " - " + trimmedTextOf(codes[table.name]);
 }
 
+QString catalogNumber(const BrowseSession& list, int ICNTAG)
+{
+    if (ICNTAG == 0)
+        return "<none>";
+    storage::Recordset& catalog = list.beside("INVCATALOG");
+    return catalog.Seek("=", ICNTAG) ? trimmedTextOf(catalog["ICNUMBER"]) : QString("Invalid Tag");
+}
+
 // Series, subcategory and catalog number of the item under the highlight. The table stands beside
 // the list a second time, so that looking does not move the list.
 QString itemText(const BrowseSession& list)
 {
-    storage::Recordset& item = list.beside("INVENTORY");
+    const ItemKind& kind = kindOf(list);
+    storage::Recordset& item = list.beside(kind.table);
     const QString filter = filterOf(list).level > 0 ? "\nFilter is On" : "\n";
     if (!list.hasParent() || !goToFound(item, list.list().BrowseCurrent))
         return filter;
-    const int ICNTAG = intOf(item["ICNTAG"]);
-    storage::Recordset& catalog = list.beside("INVCATALOG");
-    const QString number = ICNTAG == 0                 ? "<none>"
-                           : catalog.Seek("=", ICNTAG) ? trimmedTextOf(catalog["ICNUMBER"])
-                                                       : QString("Invalid Tag");
-    return "Series: " +
-           codeText(list.beside("SERIESCODES"), seriesCodes, intOf(item["SERIESTAG"])) +
-           "     Subcategory: " +
-           codeText(list.beside("SUBCATEGORIES"), subcategoryCodes, intOf(item["SUBCATTAG"])) +
-           "     I/C Number: " + number + filter;
+    QString text =
+        "Series: " + codeText(list.beside("SERIESCODES"), seriesCodes, intOf(item["SERIESTAG"])) +
+        "     Subcategory: " +
+        codeText(list.beside("SUBCATEGORIES"), subcategoryCodes, intOf(item["SUBCATTAG"]));
+    if (kind.isOfBranch)
+        text += "     I/C Number: " + catalogNumber(list, intOf(item["ICNTAG"]));
+    return text + filter;
 }
 
 // ---- commands
 bool mayEdit(const BrowseSession& list)
 {
-    return dnOK2Access(editRight, list.session().UserName, true);
+    return dnOK2Access(kindOf(list).editRight, list.session().UserName, true);
+}
+
+// An item of another branch takes the list there.
+void goToBranch(BrowseSession& list, qint32 branch)
+{
+    if (!codeRowAt(siteOf(list), branchCodes, branch))
+        return list.setParent({});
+    OpenTable settings = openSettings(list.session());
+    zorSaveUserSetting(settings.rows, list.session().SiteTag, "ILCTAG", branch);
+    browse(list, {.ILCTAG = branch});
 }
 
 void search(BrowseSession& list)
 {
-    const QString found = zorVEXINVSearch(list.session(), filterOf(list));
-    OpenTable items = openTable(list.session(), "ZORVEX.mdb", "INVENTORY");
+    const ItemKind& kind = kindOf(list);
+    const QString found = kind.isOfBranch ? zorVEXINVSearch(list.session(), filterOf(list))
+                                          : zorVEXINVCATSearch(list.session(), filterOf(list));
+    OpenTable items = openTable(list.session(), "ZORVEX.mdb", kind.table);
     if (!goToFound(items.rows, found))
         return;
-    const qint32 branch = intOf(items.rows["ILCTAG"]);
-    const qint32 tag = intOf(items.rows["ISNTAG"]);
-    if (branch != branchOf(list)) {
-        if (!codeRowAt(siteOf(list), branchCodes, branch))
-            return list.setParent({});
-        OpenTable settings = openSettings(list.session());
-        zorSaveUserSetting(settings.rows, list.session().SiteTag, "ILCTAG", branch);
-        browse(list, {.ILCTAG = branch});
-    }
+    const qint32 tag = intOf(items.rows[kind.tag]);
+    if (kind.isOfBranch && intOf(items.rows["ILCTAG"]) != branchOf(list))
+        goToBranch(list, intOf(items.rows["ILCTAG"]));
     list.showTag(tag);
 }
 
@@ -157,13 +173,13 @@ void tagAll(BrowseSession& list)
 {
     if (!list.hasParent())
         return;
-    tagItems(siteOf(list), list.list().source().index, list.list().source().parent);
+    tagItems(kindOf(list), siteOf(list), list.list().source().index, list.list().source().parent);
     list.list().rebuild();
 }
 
 void clearTags(BrowseSession& list)
 {
-    clearItemTags(siteOf(list));
+    clearItemTags(kindOf(list), siteOf(list));
     if (list.hasParent())
         list.list().rebuild();
 }
@@ -181,45 +197,71 @@ void clone(BrowseSession& list)
                   "Clone This Item?\n\nNote: Only the Quantities Maximum and Minimum Will be "
                   "Cloned.\nEdit the On Order and Available Quantities as Needed for New Item."))
         return;
-    const qint32 copy = cloneItem(siteOf(list), list.currentTag(), list.session().UserName);
+    const qint32 copy =
+        cloneItem(kindOf(list), siteOf(list), list.currentTag(), list.session().UserName);
     list.list().rebuild();
     list.showTag(copy);
 }
 
+bool hasTagged(BrowseSession& list)
+{
+    if (hasTaggedItems(kindOf(list), siteOf(list), branchOf(list)))
+        return true;
+    showCritical("Cannot Post.", "Nothing to Do (There are No Tagged Items).");
+    return false;
+}
+
 void postPreferredVendor(BrowseSession& list)
 {
-    if (!list.hasParent() || !mayEdit(list))
+    if (!list.hasParent() || !mayEdit(list) || !hasTagged(list))
         return;
-    if (!hasTaggedItems(siteOf(list), branchOf(list)))
-        return showCritical("Cannot Post.", "Nothing to Do (There are No Tagged Items).");
     const std::optional<qint32> vendor = frmVEXINV06(list.session());
     if (!vendor)
         return;
-    postVendor(siteOf(list), branchOf(list), *vendor);
+    postVendor(kindOf(list), siteOf(list), branchOf(list), *vendor);
     showInformation("Posting Complete", "Preferred Vendor Selection has Been Posted.");
     list.list().rebuild();
 }
 
+// Tagged items into the catalog, or from it into a branch.
+void copyTagged(BrowseSession& list)
+{
+    if (!list.hasParent() || !mayEdit(list) || !hasTagged(list))
+        return;
+    openScreen(kindOf(list).isOfBranch ? frmVEXINV09(list.session(), branchOf(list))
+                                       : frmVEXINVCAT09(list.session()));
+}
+
 bool openItem(BrowseSession& list, const QString& mode, qint32 tag, qint16 winTag)
 {
-    return openDataScreen(frmVEXINV02(list.session(), filterOf(list)), list.session(),
-                          {.mode = mode,
-                           .index = "INVISNTAG",
-                           .keys = {{"ISNTAG", tag}},
-                           .parent = {{"ILCTAG", branchOf(list)}},
-                           .winTag = winTag,
-                           .tag = tag});
+    const ItemKind& kind = kindOf(list);
+    if (!kind.isOfBranch && mode == "D") {
+        const QString refusal = catalogUseText(siteOf(list), tag);
+        if (!refusal.isEmpty()) {
+            showCritical("Cannot Delete", refusal);
+            return false;
+        }
+    }
+    DataRecord record{
+        .mode = mode, .index = kind.byTag, .keys = {{kind.tag, tag}}, .winTag = winTag, .tag = tag};
+    if (kind.isOfBranch)
+        record.parent = {{"ILCTAG", branchOf(list)}};
+    return openDataScreen(kind.isOfBranch ? frmVEXINV02(list.session(), filterOf(list))
+                                          : frmVEXINVCAT02(filterOf(list)),
+                          list.session(), record);
 }
 
 void openHistory(BrowseSession& list)
 {
-    openItemHistory(list.session(), list.currentTag());
+    openItemHistory(kindOf(list), list.session(), list.currentTag());
 }
 
 void openPrint(BrowseSession& list)
 {
-    if (const qint32 tag = list.currentTag(); tag != 0)
-        openScreen(new ReportWindow(frmVEXINV03(tag), list.session()));
+    const qint32 tag = list.currentTag();
+    if (tag != 0)
+        openScreen(new ReportWindow(
+            kindOf(list).isOfBranch ? frmVEXINV03(tag) : frmVEXINVCAT03(tag), list.session()));
 }
 
 void openBranchChange(BrowseSession& list)
@@ -239,159 +281,147 @@ void showLast(BrowseSession& list, bool& isFirst)
     if (!std::exchange(isFirst, false))
         return;
     OpenTable settings = openSettings(list.session());
-    list.showTag(
-        zorGetUserSetting(settings.rows, list.session().SiteTag, "LASTACTIVEISNTAG").toInt());
+    list.showTag(zorGetUserSetting(settings.rows, list.session().SiteTag, kindOf(list).lastOnScreen)
+                     .toInt());
 }
 
 void keepLast(BrowseSession& list)
 {
     const qint32 tag = list.currentTag();
     OpenTable settings = openSettings(list.session());
-    zorSaveUserSetting(settings.rows, list.session().SiteTag, "LASTACTIVEISNTAG", tag);
+    zorSaveUserSetting(settings.rows, list.session().SiteTag, kindOf(list).lastOnScreen, tag);
 }
 
-std::vector<BrowseColumn> columns()
+BrowseColumn quantity(schema::FieldName field, const QString& heading)
 {
-    const QString quantity = "###,###.00";
-    return {{.field = "TAGGED",
-             .length = 1,
-             .heading = "Tag",
-             .width = 500,
-             .alignment = Qt::AlignHCenter},
-            {.field = "PARTNO", .length = 18, .heading = "Part #", .width = 2100},
-            {.field = "SHORTDESC", .length = 50, .heading = "Description", .width = 4600},
-            {.field = "UPCCODE", .length = 14, .heading = "UPC Code", .width = 1500},
-            {.field = "BINTAG", .length = 6, .heading = "Bin #", .width = 1000, .shows = binNumber},
-            {.field = "ONORDER",
-             .length = 10,
-             .heading = "On Order",
-             .width = 1300,
-             .format = quantity,
-             .alignment = Qt::AlignRight},
-            {.field = "AVAILABLE",
-             .length = 10,
-             .heading = "On Hand",
-             .width = 1300,
-             .format = quantity,
-             .alignment = Qt::AlignRight},
-            {.field = "INACTIVE",
-             .length = 3,
-             .heading = "Inactive",
-             .width = 900,
-             .alignment = Qt::AlignHCenter,
-             .shows = [](const BrowseSession&, storage::Recordset& rows) {
-                 return rows["INACTIVE"].value().toBool() ? QString("Yes") : QString();
-             }}};
+    return {.field = field,
+            .length = 10,
+            .heading = heading,
+            .width = 1300,
+            .format = "###,###.00",
+            .alignment = Qt::AlignRight};
 }
 
-std::vector<BrowseCommand> commands()
+std::vector<BrowseColumn> columns(const ItemKind& kind)
 {
-    return {{.name = "cmdFilter",
-             .caption = "&Filter",
-             .run = nextFilter,
-             .key = Qt::Key_F,
-             .needsRecord = true},
-            {.name = "cmdSearch", .caption = "&Search", .run = search, .key = Qt::Key_S},
-            {.name = "cmdTAGEM",
-             .caption = "&Tag",
-             .run = toggleTag,
-             .key = Qt::Key_T,
-             .needsRecord = true},
-            {.name = "cmdTagAll", .caption = "Tag A&ll", .run = tagAll, .key = Qt::Key_L},
-            {.name = "cmdClearTags", .caption = "Clear Ta&gs", .run = clearTags, .key = Qt::Key_G},
-            {.name = "cmdINACTIVE",
-             .caption = "&Inactive",
-             .run = toggleInactive,
-             .key = Qt::Key_I,
-             .needsRecord = true},
-            {.name = "cmdClone",
-             .caption = "Clo&ne",
-             .run = clone,
-             .key = Qt::Key_N,
-             .needsRecord = true},
-            {.name = "cmdHistory",
-             .caption = "&History",
-             .run = openHistory,
-             .key = Qt::Key_H,
-             .needsRecord = true},
-            {.name = "cmdPostVendor",
-             .caption = "Post Vend&or",
-             .run = postPreferredVendor,
-             .key = Qt::Key_O},
-            {.name = "cmdChangeBranch",
-             .caption = "Change &Branch",
-             .run = openBranchChange,
-             .key = Qt::Key_B,
-             .needsRecord = true},
-            {.name = "cmdADJUSTMENTS",
-             .caption = "Ad&justments",
-             .run = notReady,
-             .key = Qt::Key_J,
-             .needsRecord = true},
-            {.name = "cmdAdd2Catalog",
-             .caption = "Add to &Catalog",
-             .run = notReady,
-             .key = Qt::Key_C,
-             .needsRecord = true}};
+    std::vector<BrowseColumn> all = {
+        {.field = "TAGGED",
+         .length = 1,
+         .heading = "Tag",
+         .width = 500,
+         .alignment = Qt::AlignHCenter},
+        {.field = "PARTNO", .length = 18, .heading = "Part #", .width = 2100},
+        {.field = "SHORTDESC", .length = 50, .heading = "Description", .width = 4600},
+        {.field = "UPCCODE", .length = 14, .heading = "UPC Code", .width = 1500}};
+    if (kind.isOfBranch) {
+        all.push_back({.field = "BINTAG",
+                       .length = 6,
+                       .heading = "Bin #",
+                       .width = 1000,
+                       .shows = binNumber});
+        all.push_back(quantity("ONORDER", "On Order"));
+        all.push_back(quantity("AVAILABLE", "On Hand"));
+    } else {
+        all.push_back({.field = "ICNUMBER", .length = 11, .heading = "I/C Number", .width = 1500});
+    }
+    all.push_back({.field = "INACTIVE",
+                   .length = 3,
+                   .heading = "Inactive",
+                   .width = 900,
+                   .alignment = Qt::AlignHCenter,
+                   .shows = [](const BrowseSession&, storage::Recordset& rows) {
+                       return rows["INACTIVE"].value().toBool() ? QString("Yes") : QString();
+                   }});
+    return all;
+}
+
+std::vector<BrowseCommand> commands(const ItemKind& kind)
+{
+    std::vector<BrowseCommand> all = {
+        {.name = "cmdFilter",
+         .caption = "&Filter",
+         .run = nextFilter,
+         .key = Qt::Key_F,
+         .needsRecord = true},
+        {.name = "cmdSearch", .caption = "&Search", .run = search, .key = Qt::Key_S},
+        {.name = "cmdTAGEM",
+         .caption = "&Tag",
+         .run = toggleTag,
+         .key = Qt::Key_T,
+         .needsRecord = true},
+        {.name = "cmdTagAll", .caption = "Tag A&ll", .run = tagAll, .key = Qt::Key_L},
+        {.name = "cmdClearTags", .caption = "Clear Ta&gs", .run = clearTags, .key = Qt::Key_G},
+        {.name = "cmdINACTIVE",
+         .caption = "&Inactive",
+         .run = toggleInactive,
+         .key = Qt::Key_I,
+         .needsRecord = true},
+        {.name = "cmdClone",
+         .caption = "Clo&ne",
+         .run = clone,
+         .key = Qt::Key_N,
+         .needsRecord = true},
+        {.name = "cmdHistory",
+         .caption = "&History",
+         .run = openHistory,
+         .key = Qt::Key_H,
+         .needsRecord = true},
+        {.name = "cmdPostVendor",
+         .caption = "Post Vend&or",
+         .run = postPreferredVendor,
+         .key = Qt::Key_O}};
+    if (!kind.isOfBranch) {
+        all.push_back({.name = "cmdAdd2Inventory",
+                       .caption = "Add to &Branch",
+                       .run = copyTagged,
+                       .key = Qt::Key_B});
+        return all;
+    }
+    all.push_back({.name = "cmdChangeBranch",
+                   .caption = "Change &Branch",
+                   .run = openBranchChange,
+                   .key = Qt::Key_B,
+                   .needsRecord = true});
+    all.push_back({.name = "cmdADJUSTMENTS",
+                   .caption = "Ad&justments",
+                   .run = notReady,
+                   .key = Qt::Key_J,
+                   .needsRecord = true});
+    all.push_back({.name = "cmdAdd2Catalog",
+                   .caption = "Add to &Catalog",
+                   .run = copyTagged,
+                   .key = Qt::Key_C});
+    return all;
+}
+
+// What both browses have in common.
+BrowseSpec items(const ItemKind& kind, const char* name, const char* caption)
+{
+    return {
+        .name = name,
+        .caption = caption,
+        .table = kind.table,
+        .index = kind.index("PARTNO"),
+        .columns = columns(kind),
+        .besides = {{"ZORVEX.mdb", kind.table},
+                    {"ZORVEX.mdb", "SERIESCODES", "SERIESTAG"},
+                    {"ZORVEX.mdb", "SUBCATEGORIES", "SUBCATTAG"}},
+        .editRight = kind.editRight,
+        .detail = {.tagField = QString::fromLatin1(kind.tag.text()),
+                   .tagIndex = kind.byTag,
+                   .open = openItem,
+                   .hasView = true,
+                   .tellsNoRecord = false},
+        .print = {.run = openPrint},
+        .commands = commands(kind),
+        .status = itemText,
+        .closing = keepLast,
+        .fillsDesktop = true,
+        .readsAnewInFront = true,
+    };
 }
 
 }  // namespace
-
-std::optional<qint32> frmVEXINV06(const Session& session)
-{
-    SmallDialog dialog("frmVEXINV06", "Post Preferred Vendor");
-    dialog.addText("lblNotice",
-                   "Notice: Select a Vendor Number or Click on the 'Clear Existing Vendors' Check "
-                   "Box Below to CLEAR ALL PREFERRED VENDORS for those Items that have Been "
-                   "Tagged.");
-    const QString& site = session.JobSitePath;
-    auto* vendor =
-        new LookUpField("txtVENNO", "lblVENNAME",
-                        {.nameOf = [&site](const QString& code) -> std::optional<QString> {
-                             const auto row = codeRow(site, vendorCodes, 0, code);
-                             return row ? std::optional<QString>(row->name) : std::nullopt;
-                         },
-                         .choices = [] { return std::vector<CodeChoice>(); },
-                         .search =
-                             [&session, &site] {
-                                 OpenTable vendors = openTable(session, "ZORVEX.mdb", "VENDORS");
-                                 return goToFound(vendors.rows, zorSearchVendor(site))
-                                            ? trimmedTextOf(vendors.rows["VENNO"])
-                                            : QString();
-                             },
-                         .notFound = "Vendor Not Found"});
-    auto* clear = new QCheckBox("&Clear Existing Vendors");
-    clear->setObjectName("ckbClearVENTAGS");
-    dialog.addField("&Vendor Number:", vendor);
-    dialog.addAcross(clear);
-    std::optional<qint32> chosen;
-    dialog.enterTakes(dialog.addButton("cmdPost", "&Post", [&] {
-        chosen = vendorToPost(site, vendor->code(), clear->isChecked());
-        if (chosen)
-            dialog.accept();
-        else
-            vendor->edit().setFocus();
-    }));
-    dialog.escTakes(dialog.addClosingButton("cmdExit", "E&xit"));
-    vendor->edit().setFocus();
-    return dialog.exec() == QDialog::Accepted ? chosen : std::nullopt;
-}
-
-std::optional<qint32> vendorToPost(const QString& jobSitePath, const QString& VENNO, bool clears)
-{
-    if (clears)
-        return 0;
-    if (dnIsBlank(VENNO)) {
-        showCritical("Cannot Post", "Nothing to Post. Vendor Number is Blank.");
-        return {};
-    }
-    const auto row = codeRow(jobSitePath, vendorCodes, 0, VENNO);
-    if (!row) {
-        showCritical("Cannot Post", "Cannot Find Vendor Number: " + VENNO.trimmed());
-        return {};
-    }
-    return row->tag;
-}
 
 BrowseSpec frmVEXINV01()
 {
@@ -401,36 +431,23 @@ BrowseSpec frmVEXINV01()
 BrowseSpec inventoryItems(const ItemFilter& filter)
 {
     const auto isFirst = std::make_shared<bool>(true);
-    return {
-        .name = "frmVEXINV01",
-        .caption = "Inventory Items",
-        .table = "INVENTORY",
-        .index = "INVPARTNO",
-        .parent = branchParent(),
-        .columns = columns(),
-        .besides = {{"ZORVEX.mdb", "INVENTORY"},
-                    {"ZORVEX.mdb", "BINLIST", "BINTAG"},
-                    {"ZORVEX.mdb", "SERIESCODES", "SERIESTAG"},
-                    {"ZORVEX.mdb", "SUBCATEGORIES", "SUBCATTAG"},
-                    {"ZORVEX.mdb", "INVCATALOG", "ICNTAG"}},
-        .editRight = editRight,
-        .detail = {.tagField = "ISNTAG",
-                   .tagIndex = "INVISNTAG",
-                   .open = openItem,
-                   .hasView = true,
-                   .tellsNoRecord = false},
-        .print = {.run = openPrint},
-        .commands = commands(),
-        .status = itemText,
-        .parentChosen =
-            [isFirst, filter](BrowseSession& list) {
-                if (filter.level > 0 && filter.ILCTAG == branchOf(list) &&
-                    std::exchange(*isFirst, false))
-                    browse(list, filter);
-                else
-                    showLast(list, *isFirst);
-            },
-        .closing = keepLast,
-        .readsAnewInFront = true,
+    BrowseSpec spec = items(branchItems, "frmVEXINV01", "Inventory Items");
+    spec.parent = branchParent();
+    spec.besides.push_back({"ZORVEX.mdb", "BINLIST", "BINTAG"});
+    spec.besides.push_back({"ZORVEX.mdb", "INVCATALOG", "ICNTAG"});
+    spec.parentChosen = [isFirst, filter](BrowseSession& list) {
+        if (filter.level > 0 && filter.ILCTAG == branchOf(list) && std::exchange(*isFirst, false))
+            browse(list, filter);
+        else
+            showLast(list, *isFirst);
     };
+    return spec;
+}
+
+BrowseSpec frmVEXINVCAT01()
+{
+    const auto isFirst = std::make_shared<bool>(true);
+    BrowseSpec spec = items(catalogItems, "frmVEXINVCAT01", "Inventory Catalog");
+    spec.opened = [isFirst](BrowseSession& list) { showLast(list, *isFirst); };
+    return spec;
 }

@@ -4,6 +4,7 @@
 #include "core/number_format.h"
 #include "core/text.h"
 #include "inventory/item_codes.h"
+#include "inventory/item_kind.h"
 #include "inventory/item_search.h"
 #include "screens/report/data_sheet.h"
 #include "screens/report/list_report.h"
@@ -58,43 +59,60 @@ struct ItemCodes
 };
 
 // ---- the data sheet
-QString numberText(const storage::Field& field, const char* mask)
-{
-    return dnFormat(numberOf(field), mask).trimmed();
-}
-
-std::vector<SheetLine> sheetOf(const Session& session, const storage::Recordset& item)
+std::vector<SheetLine> sheetOf(const ItemKind& kind, const Session& session,
+                               const storage::Recordset& item)
 {
     const ItemCodes codes(session);
     const auto text = [&item](schema::FieldName field) { return trimmedTextOf(item[field]); };
-    return {{.label = "Series Code:", .value = codes.series.text(intOf(item["SERIESTAG"]), "")},
-            {.label = "Subcategory Code:",
-             .value = codes.subcategories.text(intOf(item["SUBCATTAG"]), "")},
-            {.label = "Part Number:", .value = text("PARTNO")},
-            {.label = "MFG Part Number:", .value = text("MFGPARTNO")},
-            {.label = "Description:", .value = text("Desc")},
-            {.label = "Unit of Measure:", .value = text("UOM")},
-            {.label = "UPC Code:", .value = text("UPCCODE")},
-            {.label = "Wholesale:", .value = numberText(item["WHOLESALE"], priceMask)},
-            {.label = "Default Markup %:", .value = numberText(item["MARKUP"], "###.00")},
-            {.label = "Retail:", .value = numberText(item["RETAIL"], priceMask)},
-            {.label = "Preferred Vendor:",
-             .value = codes.vendors.text(intOf(item["VENTAG"]), "Vendor Not Selected.")},
-            {.label = "Bin Number:", .value = codes.bins.text(intOf(item["BINTAG"]), "<None>")},
-            {.label = "Quantity on Order:", .value = numberText(item["ONORDER"], quantityMask)},
-            {.label = "Quantity Available:", .value = numberText(item["AVAILABLE"], quantityMask)},
-            {.label = "Maximum:", .value = numberText(item["Maximum"], quantityMask)},
-            {.label = "Minimum:", .value = numberText(item["MINIMUM"], quantityMask)},
-            {.label = "Inactive:", .value = item["INACTIVE"].value().toBool() ? "Yes" : "No"}};
+    const auto amount = [&item](schema::FieldName field, const char* mask) {
+        return dnFormat(numberOf(item[field]), mask).trimmed();
+    };
+    std::vector<SheetLine> lines;
+    if (!kind.isOfBranch)
+        lines.push_back({.label = "I/C Number:", .value = text("ICNUMBER")});
+    const std::vector<SheetLine> identity = {
+        {.label = "Series Code:", .value = codes.series.text(intOf(item["SERIESTAG"]), "")},
+        {.label = "Subcategory Code:",
+         .value = codes.subcategories.text(intOf(item["SUBCATTAG"]), "")},
+        {.label = "Part Number:", .value = text("PARTNO")},
+        {.label = "MFG Part Number:", .value = text("MFGPARTNO")},
+        {.label = "Description:", .value = text("Desc")},
+        {.label = "Unit of Measure:", .value = text("UOM")},
+        {.label = "UPC Code:", .value = text("UPCCODE")},
+        {.label = "Wholesale:", .value = amount("WHOLESALE", priceMask)},
+        {.label = "Default Markup %:", .value = amount("MARKUP", "###.00")},
+        {.label = "Retail:", .value = amount("RETAIL", priceMask)},
+        {.label = "Preferred Vendor:",
+         .value = codes.vendors.text(intOf(item["VENTAG"]), "Vendor Not Selected.")}};
+    lines.insert(lines.end(), identity.begin(), identity.end());
+    if (kind.isOfBranch) {
+        lines.push_back(
+            {.label = "Bin Number:", .value = codes.bins.text(intOf(item["BINTAG"]), "<None>")});
+        lines.push_back({.label = "Quantity on Order:", .value = amount("ONORDER", quantityMask)});
+        lines.push_back(
+            {.label = "Quantity Available:", .value = amount("AVAILABLE", quantityMask)});
+        lines.push_back({.label = "Maximum:", .value = amount("Maximum", quantityMask)});
+        lines.push_back({.label = "Minimum:", .value = amount("MINIMUM", quantityMask)});
+    }
+    lines.push_back(
+        {.label = "Inactive:", .value = item["INACTIVE"].value().toBool() ? "Yes" : "No"});
+    return lines;
 }
 
-void printSheet(ReportRun& run, qint32 ISNTAG)
+void printSheet(const ItemKind& kind, ReportRun& run, qint32 tag)
 {
-    OpenTable items = openTable(run.session(), "ZORVEX.mdb", "INVENTORY");
-    items.rows.Index("INVISNTAG");
-    DataSheets sheets(run, {.reportName = "Inventory Item Information"});
-    if (sheets.isOpen() && items.rows.Seek("=", ISNTAG))
-        sheets.add(sheetOf(run.session(), items.rows));
+    OpenTable items = openTable(run.session(), "ZORVEX.mdb", kind.table);
+    items.rows.Index(kind.byTag);
+    DataSheets sheets(run, {.reportName = QString(kind.noun) + " Information"});
+    if (sheets.isOpen() && items.rows.Seek("=", tag))
+        sheets.add(sheetOf(kind, run.session(), items.rows));
+}
+
+ReportSpec sheetScreen(const ItemKind& kind, const char* name, qint32 tag)
+{
+    return {.name = name,
+            .caption = QString("Print an ") + kind.noun + " Data Sheet",
+            .print = [&kind, tag](ReportRun& run) { printSheet(kind, run, tag); }};
 }
 
 // ---- the lists
@@ -197,9 +215,12 @@ QString searchPartNumber(const ReportSelection& selection, const Session& sessio
 
 ReportSpec frmVEXINV03(qint32 ISNTAG)
 {
-    return {.name = "frmVEXINV03",
-            .caption = "Print an Inventory Item Data Sheet",
-            .print = [ISNTAG](ReportRun& run) { printSheet(run, ISNTAG); }};
+    return sheetScreen(branchItems, "frmVEXINV03", ISNTAG);
+}
+
+ReportSpec frmVEXINVCAT03(qint32 ICNTAG)
+{
+    return sheetScreen(catalogItems, "frmVEXINVCAT03", ICNTAG);
 }
 
 ReportSpec frmVEXINVP04()

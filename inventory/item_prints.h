@@ -5,6 +5,7 @@
 #include "screens/report/report_spec.h"
 
 ReportSpec frmVEXINV03(qint32 ISNTAG);
+ReportSpec frmVEXINVCAT03(qint32 ICNTAG);
 
 ReportSpec frmVEXINVP04();  // by series and subcategory
 ReportSpec frmVEXINVP05();  // by part number, within a range

@@ -2,21 +2,19 @@
 
 #include <vector>
 
-#include "core/dates.h"
 #include "core/keyed_access.h"
 #include "core/locators.h"
 #include "core/messages.h"
 #include "core/stamps.h"
 #include "core/storage/file_paths.h"
-#include "core/system.h"
 #include "core/tags.h"
 #include "core/write_batch.h"
+#include "inventory/catalog_rules.h"
 
 namespace {
 
 constexpr char siteFile[] = "ZORVEX.mdb";
 constexpr char equipmentFile[] = "ZORBRQ.mdb";
-constexpr char currentNumber[] = " <Current>";
 
 bool hasEquipment(const QString& jobSitePath)
 {
@@ -29,86 +27,6 @@ bool hasRow(const QString& jobSitePath, const QString& file, const QString& tabl
     OpenTable open = openTable(jobSitePath, file, table);
     open.rows.Index(index);
     return open.rows.Seek("=", tag);
-}
-
-// ---- part numbers
-class PartNumbers
-{
-public:
-    PartNumbers(const QString& jobSitePath, qint32 ILCTAG, qint32 ISNTAG)
-        : m_open(openTable(jobSitePath, siteFile, "INVPNMASTER")),
-          m_rows(m_open.rows),
-          m_branch(ILCTAG),
-          m_item(ISNTAG)
-    {
-        m_rows.Index("INVPNMASTERISNTAG");
-    }
-
-    bool seek(const QString& PARTNO) { return m_rows.Seek("=", m_branch, m_item, PARTNO); }
-
-    void addCurrent(const QString& PARTNO) { add(PARTNO, currentNumber, QString(10, ' ')); }
-    void addSuperseded(const QString& PARTNO) { add(PARTNO, today(), dnDateKey(today())); }
-    // The row that `seek` has found.
-    void stamp()
-    {
-        m_rows.Edit();
-        m_rows["FDATE"] = today();
-        m_rows["LDATE"] = dnDateKey(today());
-        m_rows.Update();
-    }
-    void rename(const QString& PARTNO)
-    {
-        m_rows.Edit();
-        m_rows["PARTNO"] = PARTNO;
-        m_rows.Update();
-    }
-
-private:
-    static QString today() { return System::current().now().toString("MM/dd/yyyy"); }
-
-    void add(const QString& PARTNO, const QString& FDATE, const QString& LDATE)
-    {
-        m_rows.AddNew();
-        m_rows["ILCTAG"] = m_branch;
-        m_rows["ISNTAG"] = m_item;
-        m_rows["ICNTAG"] = 0;
-        m_rows["PARTNO"] = PARTNO;
-        m_rows["FDATE"] = FDATE;
-        m_rows["LDATE"] = LDATE;
-        m_rows.Update();
-    }
-
-    OpenTable m_open;
-    storage::Recordset& m_rows;
-    qint32 m_branch;
-    qint32 m_item;
-};
-
-void supersede(PartNumbers& numbers, const QString& oldPARTNO, const QString& PARTNO)
-{
-    if (!numbers.seek(oldPARTNO)) {
-        if (askYesNo("Confirm Add.",
-                     "OK to Add Old Part Number: " + oldPARTNO +
-                         "\nto Master Part Number Table as a Superseded Part Number?\n\n"
-                         "If Change was a Minor Edit Change Then Do Not Add, Click NO."))
-            numbers.addSuperseded(oldPARTNO);
-        return;
-    }
-    if (askYesNo("Confirm Update.",
-                 "OK to Update Old Part Number: " + oldPARTNO +
-                     "\nin Master Part Number Table as a Superseded Part Number\n"
-                     "with Today's Date as the Date this Part Number was Superseded?\n\n"
-                     "If Minor Edit Change and not a New Part Number then Click NO.\n"
-                     "You will be Given the Option of Updating the Master Part List with Revised "
-                     "Part Number Next.")) {
-        if (numbers.seek(oldPARTNO))
-            numbers.stamp();
-    } else if (askYesNo("Confirm Update.",
-                        "OK to Update Old Part Number: " + oldPARTNO +
-                            "\nin Master Part Number Table with Revised Part Number: " + PARTNO)) {
-        if (numbers.seek(oldPARTNO))
-            numbers.rename(PARTNO);
-    }
 }
 
 // ---- rows of an item
@@ -137,6 +55,11 @@ int writeWhere(OpenTable& open, const QString& index, KeyFields keys, schema::Fi
     }
     batch.commit();
     return static_cast<int>(found.size());
+}
+
+bool isWithin(const ItemKind& kind, const storage::Recordset& item, qint32 ILCTAG)
+{
+    return !kind.isOfBranch || intOf(item["ILCTAG"]) == ILCTAG;
 }
 
 constexpr auto anyRow = [](const storage::Recordset&) { return true; };
@@ -206,20 +129,10 @@ double markupOf(double WHOLESALE, double RETAIL)
     return (RETAIL - WHOLESALE) / WHOLESALE * 100;
 }
 
-void keepPartNumber(const QString& jobSitePath, qint32 ILCTAG, qint32 ISNTAG,
-                    const QString& oldPARTNO, const QString& PARTNO)
+void rememberItem(const ItemKind& kind, const QString& userSettingsPath,
+                  const storage::Recordset& item)
 {
-    PartNumbers numbers(jobSitePath, ILCTAG, ISNTAG);
-    const bool isChanged = !oldPARTNO.trimmed().isEmpty() && oldPARTNO != PARTNO;
-    if (isChanged)
-        supersede(numbers, oldPARTNO, PARTNO);
-    if ((isChanged || oldPARTNO.trimmed().isEmpty()) && !numbers.seek(PARTNO))
-        numbers.addCurrent(PARTNO);
-}
-
-void rememberItem(const QString& userSettingsPath, const storage::Recordset& item)
-{
-    OpenTable open = openTable(userSettingsPath, "ZORUSER.mdb", "VEXINVLASTUPDATE");
+    OpenTable open = openTable(userSettingsPath, "ZORUSER.mdb", kind.remembered);
     storage::Recordset& row = open.rows;
     if (row.RecordCount() == 0) {
         row.AddNew();
@@ -227,10 +140,12 @@ void rememberItem(const QString& userSettingsPath, const storage::Recordset& ite
         row.MoveFirst();
         row.Edit();
     }
-    constexpr schema::FieldName fields[] = {"SERIESTAG", "SUBCATTAG", "PARTNO", "Desc",   "UOM",
-                                            "UPCCODE",   "WHOLESALE", "MARKUP", "RETAIL", "BINTAG"};
+    constexpr schema::FieldName fields[] = {"SERIESTAG", "SUBCATTAG", "PARTNO", "Desc",  "UOM",
+                                            "UPCCODE",   "WHOLESALE", "MARKUP", "RETAIL"};
     for (const schema::FieldName field : fields)
         row[field] = item[field].value();
+    if (kind.isOfBranch)
+        row["BINTAG"] = item["BINTAG"].value();
     if (intOf(item["VENTAG"]) != 0)
         row["VENTAG"] = item["VENTAG"].value();
     row.Update();
@@ -249,65 +164,87 @@ QString itemDetailText(const QString& jobSitePath, qint32 ISNTAG)
     return lines.isEmpty() ? QString() : "Related Detail Found: \n" + lines.join('\n');
 }
 
-qint32 cloneItem(const QString& jobSitePath, qint32 ISNTAG, const QString& userName)
+qint32 cloneItem(const ItemKind& kind, const QString& jobSitePath, qint32 tag,
+                 const QString& userName)
 {
-    constexpr schema::FieldName fields[] = {
-        "ILCTAG", "SERIESTAG", "SUBCATTAG", "WHOLESALE", "MARKUP",  "RETAIL",  "VENTAG",
-        "BINTAG", "Desc",      "SHORTDESC", "UOM",       "UPCCODE", "Maximum", "MINIMUM"};
-    OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
+    std::vector<schema::FieldName> fields = {"SERIESTAG", "SUBCATTAG", "WHOLESALE", "MARKUP",
+                                             "RETAIL",    "VENTAG",    "Desc",      "SHORTDESC",
+                                             "UOM",       "UPCCODE"};
+    if (kind.isOfBranch)
+        fields.insert(fields.end(), {{"ILCTAG"}, {"BINTAG"}, {"Maximum"}, {"MINIMUM"}});
+    OpenTable items = openTable(jobSitePath, siteFile, kind.table);
     storage::Recordset& rows = items.rows;
-    rows.Index("INVISNTAG");
-    if (!rows.Seek("=", ISNTAG))
+    rows.Index(kind.byTag);
+    if (!rows.Seek("=", tag))
         return 0;
     std::vector<storage::Value> values;
     for (const schema::FieldName field : fields)
         values.push_back(rows[field].value());
-    const qint32 tag = dnGetNewTag(jobSitePath, "ISNTAG", siteFile, "VEXTAGS", 0);
+    const qint32 copy =
+        dnGetNewTag(jobSitePath, QString::fromLatin1(kind.tag.text()), siteFile, "VEXTAGS", 0);
+    const QString number = kind.isOfBranch ? QString() : zorVEXGetNewICNumber(jobSitePath, true);
     rows.AddNew();
-    for (size_t i = 0; i < std::size(fields); ++i)
+    for (size_t i = 0; i < fields.size(); ++i)
         rows[fields[i]] = values[i];
-    rows["ISNTAG"] = tag;
+    beginStock(kind, rows);
+    rows[kind.tag] = copy;
     rows["PARTNO"] = "COPY";
+    if (!kind.isOfBranch)
+        rows["ICNUMBER"] = number;
+    rows.Update();
+    zorStampAdd(rows, rows.LastModified(), userName);
+    return copy;
+}
+
+void beginStock(const ItemKind& kind, storage::Recordset& rows)
+{
+    rows["INACTIVE"] = false;
+    rows["TAGGED"] = " ";
+    if (!kind.isOfBranch)
+        return;
     rows["ICNTAG"] = 0;
     for (const schema::FieldName quantity :
          {schema::FieldName("ONORDER"), {"AVAILABLE"}, {"ISSUED"}, {"INVADJUSTMENTS"}})
         rows[quantity] = 0;
-    rows["INACTIVE"] = false;
-    rows["TAGGED"] = " ";
-    rows.Update();
-    zorStampAdd(rows, rows.LastModified(), userName);
-    return tag;
 }
 
-bool hasTaggedItems(const QString& jobSitePath, qint32 ILCTAG)
+std::vector<qint32> taggedItems(const ItemKind& kind, const QString& jobSitePath, qint32 ILCTAG)
 {
-    OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
-    bool isFound = false;
-    forEachWithin(items.rows, "INVTAGGED", {{"TAGGED", "Y"}}, [&] {
-        isFound = intOf(items.rows["ILCTAG"]) == ILCTAG;
-        return !isFound;
+    std::vector<qint32> tags;
+    OpenTable items = openTable(jobSitePath, siteFile, kind.table);
+    forEachWithin(items.rows, kind.index("TAGGED"), {{"TAGGED", "Y"}}, [&] {
+        if (isWithin(kind, items.rows, ILCTAG))
+            tags.push_back(intOf(items.rows[kind.tag]));
+        return true;
     });
-    return isFound;
+    return tags;
 }
 
-int postVendor(const QString& jobSitePath, qint32 ILCTAG, qint32 VENTAG)
+bool hasTaggedItems(const ItemKind& kind, const QString& jobSitePath, qint32 ILCTAG)
 {
-    OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
-    return writeWhere(
-        items, "INVTAGGED", {{"TAGGED", "Y"}}, "VENTAG", VENTAG,
-        [ILCTAG](const storage::Recordset& rows) { return intOf(rows["ILCTAG"]) == ILCTAG; });
+    OpenTable items = openTable(jobSitePath, siteFile, kind.table);
+    return !forEachWithin(items.rows, kind.index("TAGGED"), {{"TAGGED", "Y"}},
+                          [&] { return !isWithin(kind, items.rows, ILCTAG); });
 }
 
-int tagItems(const QString& jobSitePath, const QString& index, const std::vector<KeyField>& keys)
+int postVendor(const ItemKind& kind, const QString& jobSitePath, qint32 ILCTAG, qint32 VENTAG)
 {
-    OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
+    OpenTable items = openTable(jobSitePath, siteFile, kind.table);
+    return writeWhere(items, kind.index("TAGGED"), {{"TAGGED", "Y"}}, "VENTAG", VENTAG,
+                      [&](const storage::Recordset& rows) { return isWithin(kind, rows, ILCTAG); });
+}
+
+int tagItems(const ItemKind& kind, const QString& jobSitePath, const QString& index,
+             const std::vector<KeyField>& keys)
+{
+    OpenTable items = openTable(jobSitePath, siteFile, kind.table);
     return writeWhere(items, index, keys, "TAGGED", "Y", anyRow);
 }
 
-void clearItemTags(const QString& jobSitePath)
+void clearItemTags(const ItemKind& kind, const QString& jobSitePath)
 {
-    OpenTable items = openTable(jobSitePath, siteFile, "INVENTORY");
-    writeWhere(items, "INVTAGGED", {{"TAGGED", "Y"}}, "TAGGED", " ", anyRow);
+    OpenTable items = openTable(jobSitePath, siteFile, kind.table);
+    writeWhere(items, kind.index("TAGGED"), {{"TAGGED", "Y"}}, "TAGGED", " ", anyRow);
 }
 
 QString changeBranch(const QString& jobSitePath, const BranchChange& change)

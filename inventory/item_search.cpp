@@ -20,21 +20,19 @@ namespace {
 const std::array<ItemSearch, 8>& ways()
 {
     static const std::array<ItemSearch, 8> all = {{
-        {"&1 - Search by Description", "INVENTORY", "INVSHORTDESC|INVPARTNO|INVUPCCODE",
-         "SHORTDESC|PARTNO|UPCCODE", 0},
-        {"&2 - Search by Part Number", "INVPNMASTER", "ICNPNMASTERICNTAG", "PARTNO|FDATE", 0},
-        {"&3 - Search by MFG Part Number", "INVENTORY", "INVMFGPARTNO|INVSHORTDESC|INVPARTNO",
+        {"&1 - Search by Description", "SHORTDESC|PARTNO|UPCCODE", "SHORTDESC|PARTNO|UPCCODE", 0},
+        {"&2 - Search by Part Number", "", "PARTNO|FDATE", 0},
+        {"&3 - Search by MFG Part Number", "MFGPARTNO|SHORTDESC|PARTNO",
          "MFGPARTNO|SHORTDESC|PARTNO", 0},
-        {"&4 - Search by UPC Code", "INVENTORY", "INVUPCCODE|INVSHORTDESC|INVPARTNO",
-         "UPCCODE|SHORTDESC|PARTNO", 0},
-        {"&5 - Search by Series Code + Description", "INVENTORY",
-         "INVSERIESDESC|INVSERIESPARTNO|INVSERIESUPCCODE", "SHORTDESC|PARTNO|UPCCODE", 1},
-        {"&6 - Search by Series Code + Part Number", "INVENTORY",
-         "INVSERIESPARTNO|INVSERIESDESC|INVSERIESUPCCODE", "PARTNO|SHORTDESC|UPCCODE", 1},
-        {"&7 - Search by Series Code + Subcategory + Description", "INVENTORY",
-         "INVSUBDESC|INVSUBPARTNO|INVSUBUPCCODE", "SHORTDESC|PARTNO|UPCCODE", 2},
-        {"&8 - Search by Series Code + Subcategory + Part Number", "INVENTORY",
-         "INVSUBPARTNO|INVSUBDESC|INVSUBUPCCODE", "PARTNO|SHORTDESC|UPCCODE", 2},
+        {"&4 - Search by UPC Code", "UPCCODE|SHORTDESC|PARTNO", "UPCCODE|SHORTDESC|PARTNO", 0},
+        {"&5 - Search by Series Code + Description", "SERIESDESC|SERIESPARTNO|SERIESUPCCODE",
+         "SHORTDESC|PARTNO|UPCCODE", 1},
+        {"&6 - Search by Series Code + Part Number", "SERIESPARTNO|SERIESDESC|SERIESUPCCODE",
+         "PARTNO|SHORTDESC|UPCCODE", 1},
+        {"&7 - Search by Series Code + Subcategory + Description", "SUBDESC|SUBPARTNO|SUBUPCCODE",
+         "SHORTDESC|PARTNO|UPCCODE", 2},
+        {"&8 - Search by Series Code + Subcategory + Part Number", "SUBPARTNO|SUBDESC|SUBUPCCODE",
+         "PARTNO|SHORTDESC|UPCCODE", 2},
     }};
     return all;
 }
@@ -165,26 +163,70 @@ private:
     int m_groups;
 };
 
-QString headingOf(int way, const Session& session, const ItemFilter& filter)
+QString headingOf(int way, const ItemKind& kind, const Session& session, const ItemFilter& filter)
 {
-    constexpr const char* plain[] = {
-        "Inventory Items by Description", "Master List of Part Numbers",
-        "Inventory Items by MFG Part Number", "Inventory Items by UPC Code"};
-    if (way <= 4)
-        return plain[way - 1];
+    if (itemSearch(way).isOfNumbers())
+        return "Master List of Part Numbers";
+    const QString items = QString(kind.noun) + "s";
+    constexpr const char* plain[] = {" by Description", "", " by MFG Part Number", " by UPC Code"};
+    if (itemSearch(way).groups == 0)
+        return items + plain[way - 1];
     const QString unknown = "?????";
     const auto series = codeRowAt(session.JobSitePath, seriesCodes, filter.SERIESTAG);
     const QString code = series ? series->code : unknown;
     if (itemSearch(way).groups == 1)
-        return "Inventory Items for Series Code: " + code + " - " +
-               (series ? series->name : unknown);
+        return items + " for Series Code: " + code + " - " + (series ? series->name : unknown);
     const auto subcategory = codeRowAt(session.JobSitePath, subcategoryCodes, filter.SUBCATTAG);
-    return "Inventory Items for Series Code/Subcategory: " + code + '/' +
+    return items + " for Series Code/Subcategory: " + code + '/' +
            (subcategory ? subcategory->code : unknown) + " - " +
            (subcategory ? subcategory->name : unknown);
 }
 
-SearchRequest requestOf(int way, const Session& session, const ItemFilter& filter)
+// The numbers of all branches are those of no catalog item: an index by branch would part them.
+// Those of the catalog are the ones of no branch.
+QString numbersIndex(const ItemKind& kind)
+{
+    return kind.isOfBranch ? "ICNPNMASTERICNTAG" : "INVPNMASTERPARTNO";
+}
+
+std::vector<KeyField> keysOf(const ItemSearch& search, const ItemKind& kind,
+                             const ItemFilter& filter)
+{
+    std::vector<KeyField> keys;
+    if (search.isOfNumbers())
+        return {{kind.isOfBranch ? schema::FieldName("ICNTAG") : schema::FieldName("ILCTAG"), 0}};
+    if (kind.isOfBranch)
+        keys.push_back({"ILCTAG", filter.ILCTAG});
+    if (search.groups >= 1)
+        keys.push_back({"SERIESTAG", filter.SERIESTAG});
+    if (search.groups >= 2)
+        keys.push_back({"SUBCATTAG", filter.SUBCATTAG});
+    return keys;
+}
+
+QString searchItems(const ItemKind& kind, const Session& session, const ItemFilter& filter)
+{
+    const int way = chooseWay();
+    if (way == 0)
+        return noBookmark;
+    ItemFilter within = filter;
+    const ItemSearch& search = itemSearch(way);
+    if (search.groups > filter.level && !GroupChoice(session, within, search.groups).exec())
+        return noBookmark;
+    const QString found = dnSearch(itemSearchRequest(way, kind, session, within));
+    return search.isOfNumbers() && dnNotBlank(found) ? itemOfPartNumber(kind, session, found)
+                                                     : found;
+}
+
+}  // namespace
+
+const ItemSearch& itemSearch(int way)
+{
+    return ways().at(static_cast<size_t>(way - 1));
+}
+
+SearchRequest itemSearchRequest(int way, const ItemKind& kind, const Session& session,
+                                const ItemFilter& filter)
 {
     const ItemSearch& search = itemSearch(way);
     QStringList headings;
@@ -202,63 +244,48 @@ SearchRequest requestOf(int way, const Session& session, const ItemFilter& filte
                 types.append("C");
                 alignments.append("0");
             }
-    std::vector<KeyField> keys;
-    // The numbers of all branches are those of no catalog item: an index by branch would part them.
-    if (search.table == "INVENTORY")
-        keys.push_back({"ILCTAG", filter.ILCTAG});
-    else
-        keys.push_back({"ICNTAG", 0});
-    if (search.groups >= 1)
-        keys.push_back({"SERIESTAG", filter.SERIESTAG});
-    if (search.groups >= 2)
-        keys.push_back({"SUBCATTAG", filter.SUBCATTAG});
+    QStringList indexes;
+    for (const QString& index : search.indexes.split('|', Qt::SkipEmptyParts))
+        indexes.append(kind.prefix + index);
+    if (search.isOfNumbers())
+        indexes.append(numbersIndex(kind));
     return {.DBPath = session.JobSitePath,
-            .TableName = search.table,
-            .IndexList = search.indexes,
-            .WindowTitle = "Search Inventory Items",
-            .SearchTitle = headingOf(way, session, filter),
+            .TableName = search.isOfNumbers() ? "INVPNMASTER" : kind.table,
+            .IndexList = indexes.join('|'),
+            .WindowTitle = QString("Search ") + kind.noun + "s",
+            .SearchTitle = headingOf(way, kind, session, filter),
             .FieldList = search.fields,
             .TypeList = types.join('|'),
             .LengthList = lengths.join('|'),
             .HeadingList = headings.join('|'),
             .WidthList = widths.join('|'),
             .AlignList = alignments.join('|'),
-            .keys = keys};
+            .keys = keysOf(search, kind, filter)};
 }
 
-}  // namespace
-
-const ItemSearch& itemSearch(int way)
-{
-    return ways().at(static_cast<size_t>(way - 1));
-}
-
-QString itemOfPartNumber(const Session& session, const QString& bookmark)
+QString itemOfPartNumber(const ItemKind& kind, const Session& session, const QString& bookmark)
 {
     OpenTable numbers = openTable(session, "ZORVEX.mdb", "INVPNMASTER");
     if (!goToFound(numbers.rows, bookmark))
         return noBookmark;
-    const int ISNTAG = intOf(numbers.rows["ISNTAG"]);
-    OpenTable items = openTable(session, "ZORVEX.mdb", "INVENTORY");
-    items.rows.Index("INVISNTAG");
-    if (items.rows.Seek("=", ISNTAG))
+    const int tag = intOf(numbers.rows[kind.tag]);
+    OpenTable items = openTable(session, "ZORVEX.mdb", kind.table);
+    items.rows.Index(kind.byTag);
+    if (items.rows.Seek("=", tag))
         return items.rows.Bookmark();
-    showCritical("Error: zorVEXINVSearch",
-                 "Cannot Find the Inventory Tag Number: " + QString::number(ISNTAG) +
-                     "\nCannot Select Proper Inventory Item Record.");
+    const QString what = kind.isOfBranch ? QString("Inventory") : QString(kind.noun);
+    showCritical(kind.isOfBranch ? "Error: zorVEXINVSearch" : "Error: zorVEXINVCATSearch",
+                 "Cannot Find the " + what + " Tag Number: " + QString::number(tag) +
+                     "\nCannot Select Proper " + kind.noun + " Record.");
     return noBookmark;
 }
 
 QString zorVEXINVSearch(const Session& session, const ItemFilter& filter)
 {
-    const int way = chooseWay();
-    if (way == 0)
-        return noBookmark;
-    ItemFilter within = filter;
-    const int groups = itemSearch(way).groups;
-    if (groups > filter.level && !GroupChoice(session, within, groups).exec())
-        return noBookmark;
-    const QString found = dnSearch(requestOf(way, session, within));
-    const bool isPartNumber = itemSearch(way).table == "INVPNMASTER";
-    return isPartNumber && dnNotBlank(found) ? itemOfPartNumber(session, found) : found;
+    return searchItems(branchItems, session, filter);
+}
+
+QString zorVEXINVCATSearch(const Session& session, const ItemFilter& filter)
+{
+    return searchItems(catalogItems, session, filter);
 }

@@ -11,14 +11,17 @@ bool isCurrent(const QString& FDATE)
     return FDATE.trimmed() == "<Current>";
 }
 
-QString checkNumber(const Entry& entry)
+EntryCheck checkNumber(const ItemKind& kind)
 {
-    if (entry.isBlank("PARTNO"))
-        return "Superceded Part Number is Empty.";
-    return entry.isTakenInParent("INVPNMASTERISNTAG", {{"PARTNO", entry["PARTNO"].trimmed()}})
-               ? "Duplicate Superceded Part Number Detected.\nThe Part Number you have entered\n"
-                 "already exists in another record."
-               : QString();
+    return [index = kind.numbersByNumber](const Entry& entry) -> QString {
+        if (entry.isBlank("PARTNO"))
+            return "Superceded Part Number is Empty.";
+        return entry.isTakenInParent(index, {{"PARTNO", entry["PARTNO"].trimmed()}})
+                   ? "Duplicate Superceded Part Number Detected.\nThe Part Number you have "
+                     "entered\n"
+                     "already exists in another record."
+                   : QString();
+    };
 }
 
 QString checkDate(const Entry& entry)
@@ -43,28 +46,30 @@ public:
         rows["PARTNO"] = entry["PARTNO"].trimmed();
         rows["FDATE"] = isCurrent(date) ? QString(" <Current>") : date;
         rows["LDATE"] = isCurrent(date) ? QString(10, ' ') : dnDateKey(date);
-        if (entry.isAdding())
-            rows["ICNTAG"] = 0;
+        if (!entry.isAdding())
+            return;
+        for (const schema::FieldName key : {schema::FieldName("ILCTAG"), {"ISNTAG"}, {"ICNTAG"}})
+            if (entry.parentKey(key).isNull())
+                rows[key] = 0;
     }
 };
 
-}  // namespace
-
-BrowseSpec frmVEXINV08()
+BrowseSpec numberList(const ItemKind& kind, const char* name,
+                      const std::vector<schema::FieldName>& keys)
 {
     return {
-        .name = "frmVEXINV08",
+        .name = name,
         .caption = "Superseded Part Numbers",
         .table = "INVPNMASTER",
-        .index = "INVPNMASTERLDATE",
-        .parent = {.kind = BrowseParent::Kind::Given, .keys = {"ILCTAG", "ISNTAG"}},
+        .index = kind.numbersByDate,
+        .parent = {.kind = BrowseParent::Kind::Given, .keys = keys},
         .columns = {{.field = "PARTNO",
                      .length = 18,
                      .heading = "Part Number",
                      .width = 2600,
                      .entry = "txtPARTNO",
                      .keys = {.upperCase = true},
-                     .check = checkNumber},
+                     .check = checkNumber(kind)},
                     {.field = "FDATE",
                      .length = 10,
                      .heading = "Date Superseded",
@@ -76,4 +81,16 @@ BrowseSpec frmVEXINV08()
         .deleteQuestion = askToDelete("Superceded Part Number", {"PARTNO", "FDATE"}, " - "),
         .print = {.window = "Print Superseded Part Numbers", .title = "Superseded Part Numbers"},
     };
+}
+
+}  // namespace
+
+BrowseSpec frmVEXINV08()
+{
+    return numberList(branchItems, "frmVEXINV08", {"ILCTAG", "ISNTAG"});
+}
+
+BrowseSpec frmVEXINVCAT08()
+{
+    return numberList(catalogItems, "frmVEXINVCAT08", {"ICNTAG"});
 }

@@ -1,6 +1,8 @@
 // The rules of inventory items, on their tables.
 #include "inventory/item_rules.h"
 
+#include "inventory/part_number_rules.h"
+
 #include <gtest/gtest.h>
 
 #include "tests/support/fixed_system.h"
@@ -44,7 +46,7 @@ protected:
     }
     void keep(const QString& oldNumber, const QString& number) const
     {
-        keepPartNumber(site.siteFolder(), 1, 5, oldNumber, number);
+        keepPartNumber(site.siteFolder(), {.ILCTAG = 1, .ISNTAG = 5}, oldNumber, number);
     }
 
     FixedSystem system;
@@ -103,15 +105,16 @@ TEST_F(ItemRules, ListOfPartNumbersKeepsWhatTheUserSaysOfTheOldOne)
 TEST_F(ItemRules, CloneTakesNeitherQuantitiesNorWhatNamesTheItem)
 {
     addItem(5, 1, "A1");
-    const qint32 copy = cloneItem(site.siteFolder(), 5, "pat");
+    const qint32 copy = cloneItem(branchItems, site.siteFolder(), 5, "pat");
     EXPECT_GT(copy, 0);
     EXPECT_EQ(items({"ISNTAG", "ILCTAG", "PARTNO", "SERIESTAG", "VENTAG", "ICNTAG", "AVAILABLE",
                      "Maximum"})
                   .last(),
               QString::number(copy) + "|1|COPY|4|9|0|0|20");
     EXPECT_EQ(items({"MFGPARTNO"}).last().trimmed().remove('~'), "");
-    EXPECT_NE(cloneItem(site.siteFolder(), 5, "pat"), copy) << "a second one is not refused";
-    EXPECT_EQ(cloneItem(site.siteFolder(), 77, "pat"), 0);
+    EXPECT_NE(cloneItem(branchItems, site.siteFolder(), 5, "pat"), copy)
+        << "a second one is not refused";
+    EXPECT_EQ(cloneItem(branchItems, site.siteFolder(), 77, "pat"), 0);
 }
 
 TEST_F(ItemRules, VendorGoesToTheTaggedItemsOfTheBranch)
@@ -120,12 +123,12 @@ TEST_F(ItemRules, VendorGoesToTheTaggedItemsOfTheBranch)
     addItem(6, 1, "A2");
     addItem(7, 2, "A1", "Y");
     const QString path = site.siteFolder();
-    EXPECT_TRUE(hasTaggedItems(path, 1));
-    EXPECT_FALSE(hasTaggedItems(path, 3));
-    EXPECT_EQ(postVendor(path, 1, 33), 1);
+    EXPECT_TRUE(hasTaggedItems(branchItems, path, 1));
+    EXPECT_FALSE(hasTaggedItems(branchItems, path, 3));
+    EXPECT_EQ(postVendor(branchItems, path, 1, 33), 1);
     EXPECT_EQ(items({"VENTAG", "TAGGED"}), (QStringList{"33|Y", "9| ", "9|Y"}));
-    EXPECT_EQ(postVendor(path, 2, 0), 1);
-    clearItemTags(path);
+    EXPECT_EQ(postVendor(branchItems, path, 2, 0), 1);
+    clearItemTags(branchItems, path);
     EXPECT_EQ(items({"VENTAG", "TAGGED"}), (QStringList{"33| ", "9| ", "0| "}));
 }
 
@@ -183,12 +186,12 @@ TEST_F(ItemRules, LastVendorStaysOverItemsWithoutOne)
     site.emptyTable("ZORUSER.mdb", "VEXINVLASTUPDATE");
     addItem(5, 1, "A1");
     OpenTable open = site.open("ZORVEX.mdb", "INVENTORY");
-    rememberItem(site.userFolder(), open.rows);
+    rememberItem(branchItems, site.userFolder(), open.rows);
     open.rows.Edit();
     open.rows["VENTAG"] = 0;
     open.rows["PARTNO"] = "A2";
     open.rows.Update();
-    rememberItem(site.userFolder(), open.rows);
+    rememberItem(branchItems, site.userFolder(), open.rows);
     EXPECT_EQ(rowsOf(site, "ZORUSER.mdb", "VEXINVLASTUPDATE", {"PARTNO", "VENTAG", "SERIESTAG"}),
               QStringList{"A2|9|4"});
 }

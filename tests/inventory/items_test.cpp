@@ -1,7 +1,9 @@
 // The browse of items and the screen of one, without their windows.
 #include "inventory/items.h"
 
+#include "core/user_settings.h"
 #include "inventory/item_search.h"
+#include "inventory/item_vendor.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_session.h"
 #include "screens/desktop.h"
@@ -194,6 +196,65 @@ TEST_F(Items, DeletionIsRefusedForDetail)
     EXPECT_EQ(site.rowCount("ZORVEX.mdb", "INVENTORY"), 0);
 }
 
+TEST_F(Items, AnItemAddedForALineTakesItsTextsAndNamesItself)
+{
+    add("RQILIST", {{"RQITAG", 70},
+                    {"ISNTAG", 0},
+                    {"Desc", "Gate valve"},
+                    {"UNIT", "EA"},
+                    {"UNITPRICE", 12.5}});
+    const auto result = [&] {
+        OpenTable settings = site.open("ZORUSER.mdb", "VEXSETTINGS");
+        return zorGetUserSetting(settings.rows, 1, "RQIISNTAG").toInt();
+    };
+    const auto open = [&] {
+        return DataSession(
+            frmVEXINV02(session, {.ILCTAG = 1}, {.line = ItemCaller::Line::Purchase, .tag = 70}),
+            session, {.mode = "A", .parent = {{"ILCTAG", 1}}});
+    };
+    DataSession added = open();
+    ASSERT_TRUE(added.open());
+    EXPECT_EQ(added.entry()["Desc"], "Gate valve");
+    EXPECT_EQ(added.entry()["UOM"], "EA");
+    EXPECT_EQ(added.entry().number("RETAIL"), 12.5);
+    EXPECT_FALSE(added.entry().isChanged()) << "Esc asks nothing";
+    fill(added.entry(), "p-1");
+    EXPECT_TRUE(added.update());
+    const QString tag = rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"ISNTAG"}).first();
+    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "RQILIST", {"ISNTAG"}), QStringList{tag});
+    EXPECT_EQ(QString::number(result()), tag);
+    DataSession left = open();
+    ASSERT_TRUE(left.open());
+    left.close();
+    EXPECT_EQ(result(), 0) << "left without saving";
+}
+
+TEST_F(Items, ThePresentNumberIsPutAmongTheSupersededOnes)
+{
+    addItem(5, "P-1");
+    add("INVPNMASTER", {{"ILCTAG", 1},
+                        {"ISNTAG", 5},
+                        {"ICNTAG", 0},
+                        {"PARTNO", "P-0"},
+                        {"FDATE", "03/01/2026"},
+                        {"LDATE", "20260301"}});
+    DataSession edited = screen("E", 5);
+    ASSERT_TRUE(edited.open());
+    const auto shown = [&](const QString& control) {
+        return edited.entry().field(edited.entry().indexOf(control)).shows(edited.entry());
+    };
+    EXPECT_EQ(shown("lblSSPARTNO"), "P-0");
+    user.expect("Confirm Add.",
+                "OK to Add Old Part Number: P-1\nto Master Part Number Table as a Superseded Part "
+                "Number?\n\nIf Change was a Minor Edit Change Then Do Not Add, Click NO.",
+                Answer::Yes);
+    for (const DataCommand& command : edited.spec().commands)
+        if (command.name == "cmdSSAdd")
+            edited.run(command);
+    EXPECT_EQ(shown("lblSSPARTNO"), "P-0\nP-1");
+    EXPECT_EQ(shown("lblFDATE").section('\n', 0, 0), "03/01/2026");
+}
+
 TEST_F(Items, BrowseNarrowsToSeriesAndSubcategoryAndStaysOnItsItem)
 {
     addItem(5, "P-1");
@@ -260,7 +321,7 @@ TEST_F(Items, PartNumbersAreFoundInEveryBranch)
     add("INVPNMASTER", {{"ILCTAG", 2}, {"ISNTAG", 8}, {"ICNTAG", 0}, {"PARTNO", "P-OLD"}});
     add("INVPNMASTER", {{"ILCTAG", 2}, {"ISNTAG", 9}, {"ICNTAG", 0}, {"PARTNO", "P-GONE"}});
     OpenTable numbers = site.open("ZORVEX.mdb", "INVPNMASTER");
-    const QString bookmark = itemOfPartNumber(session, numbers.rows.Bookmark());
+    const QString bookmark = itemOfPartNumber(branchItems, session, numbers.rows.Bookmark());
     OpenTable items = site.open("ZORVEX.mdb", "INVENTORY");
     ASSERT_TRUE(goToFound(items.rows, bookmark));
     EXPECT_EQ(trimmedTextOf(items.rows["PARTNO"]), "P-0");
@@ -268,7 +329,7 @@ TEST_F(Items, PartNumbersAreFoundInEveryBranch)
     user.expect("Error: zorVEXINVSearch",
                 "Cannot Find the Inventory Tag Number: 9\n"
                 "Cannot Select Proper Inventory Item Record.");
-    EXPECT_EQ(itemOfPartNumber(session, numbers.rows.Bookmark()), " ");
+    EXPECT_EQ(itemOfPartNumber(branchItems, session, numbers.rows.Bookmark()), " ");
 }
 
 TEST_F(Items, SupersededNumbersHaveADateAndStandOnce)
