@@ -7,6 +7,9 @@ SmallDialog::SmallDialog(const QString& name, const QString& caption)
 {
     setObjectName(name);
     setWindowTitle(caption);
+    // The caption in full, beside the frame's buttons.
+    constexpr int frameButtons = 160;
+    setMinimumWidth(fontMetrics().horizontalAdvance(caption) + frameButtons);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 12);
     layout->setSpacing(14);
