@@ -1,13 +1,10 @@
 #include "cost/job_defaults.h"
 
 #include "core/locators.h"
+#include "cost/document_fields.h"
 #include "cost/job_checks.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_window.h"
-#include "screens/search/job_searches.h"
-#include "screens/search/order_searches.h"
-#include "screens/search/vendor_searches.h"
-#include "screens/selectors/job_directory.h"
 
 using Kind = EntryField::Kind;
 
@@ -21,43 +18,6 @@ constexpr const char* itemTexts[] = {
     "7 - Material Code    ",
 };
 
-int companyOf(const Entry& entry)
-{
-    return static_cast<int>(entry.number("CONO"));
-}
-
-// A text of ZORVEX.mdb that a search window gives.
-std::function<QString(const Entry&)> searchText(QString (*search)(const QString& path),
-                                                const QString& table, schema::FieldName field)
-{
-    return [=](const Entry& entry) {
-        const QString bookmark = search(entry.session().JobSitePath);
-        OpenTable found = openTable(entry.session(), "ZORVEX.mdb", table);
-        return goToFound(found.rows, bookmark) ? trimmedTextOf(found.rows[field]) : QString();
-    };
-}
-
-QString searchCompany(const Entry& entry)
-{
-    const QString& path = entry.session().JobSitePath;
-    return JobDirectory(path).companyAt(zorSearchCompany(path));
-}
-
-QString searchJob(const Entry& entry)
-{
-    const QString& path = entry.session().JobSitePath;
-    return JobDirectory(path).jobAt(zorSearchJob(path, static_cast<qint16>(companyOf(entry))));
-}
-
-QString companyName(const Entry& entry)
-{
-    const int CONO = companyOf(entry);
-    return CONO == 0 ? QString()
-                     : JobDirectory(entry.session().JobSitePath)
-                           .companyName(CONO)
-                           .value_or("Company Not Found");
-}
-
 QString checkCompany(const Entry& entry)
 {
     return jobDefaultsCompanyError(entry.session().JobSitePath, companyOf(entry));
@@ -70,14 +30,7 @@ class DefaultsRules : public EntryRules
 public:
     explicit DefaultsRules(JobNoFormat format) : m_format(std::move(format)) {}
 
-    QString storedJob(const Entry& entry) const { return storedJobNo(entry["JOBNO"], m_format); }
-    QString jobName(const Entry& entry) const
-    {
-        return entry.isBlank("JOBNO") ? QString()
-                                      : JobDirectory(entry.session().JobSitePath)
-                                            .jobName(companyOf(entry), storedJob(entry))
-                                            .value_or("Job Number Not Found");
-    }
+    QString storedJob(const Entry& entry) const { return storedJobOf(entry, m_format); }
     QString checkJob(const Entry& entry) const
     {
         const QString& site = entry.session().JobSitePath;
@@ -116,80 +69,21 @@ private:
 std::vector<EntryField> pairFields(const std::shared_ptr<DefaultsRules>& rules,
                                    const JobNoFormat& format)
 {
-    return {
-        {.kind = Kind::Heading, .caption = "Company and Job"},
-        {.name = "txtCONO",
-         .field = "CONO",
-         .caption = "C&ompany:",
-         .length = 2,
-         .keys = {.numbers = NumberKeys::Digits},
-         .format = "##",
-         .check = checkCompany,
-         .search = searchCompany,
-         .searchName = "cmdCONO"},
-        {.kind = Kind::Shown, .name = "lblCONAME", .shows = companyName},
-        {.name = "txtJOBNO",
-         .field = "JOBNO",
-         .caption = "&Job Number:",
-         .length = format.size,
-         .tidy = [format](const QString& text) { return storedJobNo(text, format).trimmed(); },
-         .check = [rules](const Entry& entry) { return rules->checkJob(entry); },
-         .search = searchJob,
-         .searchName = "cmdJOBNO"},
-        {.kind = Kind::Shown,
-         .name = "lblJOBNAME",
-         .shows = [rules](const Entry& entry) { return rules->jobName(entry); }},
-    };
-}
-
-std::vector<EntryChoice> requisitionTypes(const Session& session)
-{
-    std::vector<EntryChoice> choices = {{"", "(none)"}};
-    OpenTable types = openTable(session, "ZORVEX.mdb", "REQTYPES");
-    types.rows.Index("REQTYPE");
-    for (bool more = types.rows.RecordCount() > 0 && types.rows.MoveFirst(); more;
-         more = types.rows.MoveNext()) {
-        const QString type = trimmedTextOf(types.rows["REQTYPE"]);
-        choices.push_back({type, type + " - " + trimmedTextOf(types.rows["RTNAME"])});
-    }
-    return choices;
+    return {{.kind = Kind::Heading, .caption = "Company and Job"},
+            typedCompanyField(checkCompany),
+            companyNameField(),
+            typedJobField(format, [rules](const Entry& entry) { return rules->checkJob(entry); }),
+            jobNameField(format)};
 }
 
 std::vector<EntryField> documentFields(const Session& session)
 {
-    return {
+    std::vector<EntryField> fields = {
         {.kind = Kind::Heading, .caption = "Defaults of a New Requisition"},
-        {.kind = Kind::Choice,
-         .name = "cboREQTYPE",
-         .field = "REQTYPE",
-         .caption = "Re&quisition Type:",
-         .choices = requisitionTypes(session)},
-        {.name = "txtSHIPTO",
-         .field = "SHIPTO",
-         .caption = "&Ship To:",
-         .search = searchText(zorSearchShipTo, "SHIPTOITEMS", "SHIPTO"),
-         .searchName = "cmdSHIPTO"},
-        {.name = "txtSHIPVIA",
-         .field = "SHIPVIA",
-         .caption = "Ship &Via:",
-         .search = searchText(zorSearchShipVia, "SHIPVIAITEMS", "SHIPVIA"),
-         .searchName = "cmdSHIPVIA"},
-        {.name = "txtFOB", .field = "FOB", .caption = "&FOB:"},
-        {.name = "txtTERMS",
-         .field = "TERMS",
-         .caption = "&Terms:",
-         .search =
-             [](const Entry& entry) {
-                 return searchText(zorSearchTerms, "TERMSCODES", "TCNAME")(entry).left(
-                     entry.lengthOf(entry.indexOf(schema::FieldName("TERMS"))));
-             },
-         .searchName = "cmdTERMS"},
-        {.name = "txtWHODIDIT",
-         .field = "WHODIDIT",
-         .caption = "Requisitioned &By:",
-         .search = searchText(zorSearchWhoDidIt, "WHODIDITITEMS", "WHODIDIT"),
-         .searchName = "cmdWHODIDIT"},
-    };
+        requisitionTypeField(session)};
+    for (const EntryField& field : deliveryFields())
+        fields.push_back(field);
+    return fields;
 }
 
 std::vector<EntryField> replyFields()

@@ -134,11 +134,14 @@ bool DataSession::update(bool stays)
     const Step step = m_spec.rules ? m_spec.rules->beforeWrite(m_entry) : Step::Write;
     if (step == Step::Leave)
         m_entry.takeAsUnchanged();
+    const bool addsOn = !stays && m_mode == "A" && !m_spec.addsOnAt.isEmpty();
     if (step != Step::Write || !write(stays))
         return step == Step::Leave;
     if (m_spec.savedMessage)
         Messages::current().show(*m_spec.savedMessage);
-    return !stays;
+    if (addsOn)
+        beginNext();
+    return !stays && !addsOn;
 }
 
 qint32 DataSession::tagHere()
@@ -178,6 +181,14 @@ bool DataSession::write(bool stays)
         m_entry.takeAsUnchanged();
     }
     return true;
+}
+
+void DataSession::beginNext()
+{
+    m_entry.begin("A", m_table.rows, {m_record.parent, m_spec.index});
+    m_isLoaded = !m_spec.rules || m_spec.rules->begin(m_entry);
+    m_entry.takeAsUnchanged();
+    m_entry.setFocus(m_entry.indexOf(m_spec.addsOnAt));
 }
 
 bool DataSession::remove()

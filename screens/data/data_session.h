@@ -62,6 +62,7 @@ public:
 private:
     bool refuse();
     bool write(bool stays);
+    void beginNext();
     bool remove();
     qint32 tagHere();
 

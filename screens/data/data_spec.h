@@ -61,6 +61,9 @@ struct DataSpec
     bool staysOpen = false;                    // Update does not close the screen
     QString updateCaption = "&Update";
     QString updateName = "cmdUpdate";
+    // After Update of a new record the screen begins the next one, in the field of that name; blank:
+    // it closes.
+    QString addsOnAt = {};
     // A second command, cmdUpdateStay, that saves and goes on with the record; blank: none.
     QString stayCaption = {};
     bool hasFieldSearch = false;  // a box that finds fields by their captions

@@ -269,7 +269,7 @@ void Entry::leave(int at, bool collects, bool wasChanged)
 bool Entry::checkAll()
 {
     for (int i = 0; i < count(); ++i) {
-        const QString refusal = refusalOf(i);
+        const QString refusal = field(i).isCheckedOnlyWhenLeft ? QString() : refusalOf(i);
         if (refusal.isEmpty())
             m_errors.ClearField(i + 1);
         else

@@ -51,6 +51,8 @@ struct EntryField
     // What a typed text becomes when the field is left; a stored one that is not touched stays.
     std::function<QString(const QString&)> tidy = {};
     EntryCheck check = {};
+    // Asked only when the field is left: Update takes what stands there.
+    bool isCheckedOnlyWhenLeft = false;
     // Opened by "?", "/" or the button beside the field; gives the text chosen, blank for none.
     std::function<QString(const Entry&)> search = {};
     // In place of `search`, where a choice may also empty the field or change others: sets the
