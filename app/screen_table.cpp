@@ -19,6 +19,7 @@
 #include "inventory/ledger_refresh.h"
 #include "inventory/transaction_history.h"
 #include "purchasing/code_lists.h"
+#include "purchasing/document_list.h"
 #include "purchasing/document_texts.h"
 #include "purchasing/terms_codes.h"
 #include "screens/browse/browse_window.h"
@@ -68,11 +69,17 @@ QWidget* refreshPartNumbersList(const ScreenContext& context)
     return frmVEXREFRESHPN(context.session);
 }
 
+QWidget* documentCounters(const ScreenContext& context)
+{
+    return newFrmVEXCNTRS(context.session);
+}
+
 constexpr ScreenFactory screens[] = {
     {"frmCCBQSHIP01", browse<frmCCBQSHIP01>},
     {"frmDBPBrowse", browse<frmDBPBrowse>},
     {"frmNETSET", networkSettings},
     {"frmPLGCCG01", newCostCodes},
+    {"frmVEXCNTRS", documentCounters},
     {"frmVEXGLC01", browse<frmVEXGLC01>},
     {"frmVEXIC01", browse<frmVEXIC01>},
     {"frmVEXILC01", browse<frmVEXILC01>},
@@ -90,7 +97,9 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXJND01", browse<frmVEXJND01>},
     {"frmVEXMC01", browse<frmVEXMC01>},
     {"frmVEXMFG01", browse<frmVEXMFG01>},
+    {"frmVEXPO01", browse<frmVEXPO01>},
     {"frmVEXREFRESHPN", refreshPartNumbersList},
+    {"frmVEXREQ01", browse<frmVEXREQ01>},
     {"frmVEXRT01", browse<frmVEXRT01>},
     {"frmVEXReportSelector", reportSelector},
     {"frmVEXSHIPTO01", browse<frmVEXSHIPTO01>},

@@ -256,7 +256,7 @@ EntryField orderNumberField(const DocumentKind& kind)
     return {
         .name = "txtPONO",
         .field = "PONO",
-        .caption = "PO N&umber:",
+        .caption = "PO Number:",
         .keys = {.upperCase = true},
         .check = head::checkOrderNumber(kind),
         .isCheckedOnlyWhenLeft = !kind.isOrder(),
@@ -452,6 +452,5 @@ DataSpec frmVEXREQ02(const Session& session, const DocumentKind& kind, const Job
         .commands = {{"cmdVAdd", "&1 - Add Vendor", [](DataSession& in) { editVendor(in, true); }},
                      {"cmdVEdit", "&2 - Edit Vendor",
                       [](DataSession& in) { editVendor(in, false); }}},
-        .updateCaption = "Upda&te",
     };
 }

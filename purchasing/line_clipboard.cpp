@@ -45,6 +45,11 @@ void copyToClipboard(const Session& session, qint32 RQITAG, bool isCut)
     clip.rows.Update();
 }
 
+bool isClipboardEmpty(const Session& session)
+{
+    return openTable(session, "ZORUSER.mdb", "VEXRQICLIP").rows.RecordCount() == 0;
+}
+
 bool hasContent(const Session& session, qint32 RQITAG)
 {
     bool isThere = false;

@@ -8,6 +8,8 @@
 // Takes the line of the tag; a cut one goes when it is pasted.
 void copyToClipboard(const Session& session, qint32 RQITAG, bool isCut);
 
+bool isClipboardEmpty(const Session& session);
+
 // True if the line of the tag has a quantity or a description, so that pasting over it is asked.
 bool hasContent(const Session& session, qint32 RQITAG);
 

@@ -383,6 +383,8 @@ bool BrowseSession::openDetail(const QString& mode)
     if (!isBrowsing() || !activeRecordTest(!isNew) || (!isNew && !m_list.goToCurrent()))
         return false;
     const qint32 tag = isNew ? 0 : intOf(m_list.rows().fieldNamed(m_spec.detail.tagField));
+    if (m_spec.detail.mayOpen && !m_spec.detail.mayOpen(*this, mode))
+        return false;
     if (m_spec.detail.lockedModes.contains(mode) && !takeLock(tag))
         return false;
     // The screen gives the lock up; one that fails to come into being cannot.
@@ -398,6 +400,13 @@ bool BrowseSession::openDetail(const QString& mode)
 }
 
 void BrowseSession::comeToFront()
+{
+    followDetail();
+    if (m_spec.inFront && isBrowsing() && m_list.isOpen())
+        m_spec.inFront(*this);
+}
+
+void BrowseSession::followDetail()
 {
     if (m_spec.readsAnewInFront && isBrowsing() && m_list.isOpen())
         m_list.rebuild();

@@ -110,6 +110,7 @@ private:
     bool write();
     bool goToEdited();
     bool agreesToDelete();
+    void followDetail();
     QStringList cellsOf(storage::Recordset& rows) const;
 
     BrowseSpec m_spec;

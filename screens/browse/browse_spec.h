@@ -81,6 +81,8 @@ struct BrowseDetail
 {
     QString tagField = {};  // no field: entries are typed on the row
     QString tagIndex = {};
+    // Asked before the lock is taken: false opens nothing (the user was told).
+    std::function<bool(BrowseSession&, const QString& mode)> mayOpen = {};
     // False: nothing was opened (the user was told).
     std::function<bool(BrowseSession&, const QString& mode, qint32 tag, qint16 winTag)> open = {};
     // The record lock taken before the screen opens in one of those modes, such as "VENDORS"; it
@@ -162,6 +164,8 @@ struct BrowseSpec
     std::function<void(BrowseSession&)> closing = {};
     // Opens as large as the main window has room for it.
     bool fillsDesktop = false;
+    // It has come to the front and shows what other screens have left.
+    std::function<void(BrowseSession&)> inFront = {};
     // Other screens change what it shows: it reads its rows anew when it comes to the front.
     bool readsAnewInFront = false;
     // Shown once on the way out when an existing record was edited.

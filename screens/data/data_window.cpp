@@ -43,6 +43,12 @@ int rowsOf(const EntryField& field)
     return field.kind == Kind::Picture || field.kind == Kind::Memo ? 4 : 1;
 }
 
+// The letter that stands behind '&' in a caption.
+QString keyOf(const QString& caption)
+{
+    return caption.mid(caption.indexOf('&') + 1, 1).toUpper();
+}
+
 // As wide as its text, within reason.
 void fitWidth(QLineEdit& edit, int length)
 {
@@ -228,8 +234,10 @@ void DataWindow::showState()
     setWindowTitle(m_session.caption());
     m_update->setText(m_session.updateCaption());
     if (m_session.isForTyping())
-        m_keys->setKeys(
-            {{"Enter", "Next field"}, {"?", "Search"}, {"Alt+U", "Update"}, {"Esc", "Leave"}});
+        m_keys->setKeys({{"Enter", "Next field"},
+                         {"?", "Search"},
+                         {"Alt+" + keyOf(m_update->text()), "Update"},
+                         {"Esc", "Leave"}});
     else
         m_keys->setKeys({{"Esc", "Leave"}});
 }
@@ -306,6 +314,9 @@ void DataWindow::closeEvent(QCloseEvent* event)
 
 bool DataWindow::event(QEvent* event)
 {
+    if (event->type() == screenInFront && m_loaded && m_session.isForTyping() &&
+        m_session.spec().rules)
+        run([this] { m_session.spec().rules->inFront(m_session.entry()); });
     if (event->type() == QEvent::Show && m_loaded)
         QMetaObject::invokeMethod(
             this, [this] { takeFocus(); }, Qt::QueuedConnection);

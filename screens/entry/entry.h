@@ -158,6 +158,8 @@ public:
     // Between AddNew or Edit and Update, after the keys, the tag, the typed fields and the given
     // ones were written to `rows`.
     virtual void complete(const Entry&, storage::Recordset& /*rows*/) {}
+    // The screen is in front again: another one may have left something for the entry in hand.
+    virtual void inFront(Entry&) {}
     // The record is written; `rows` stands on it.
     virtual void written(Entry&, storage::Recordset& /*rows*/) {}
     // The user has agreed: false keeps the record (the user was told). Takes along what hangs on

@@ -110,7 +110,7 @@ void PageDocument::drawPicture(const QImage& picture, const PageBox& box)
     if (picture.isNull())
         return;
     const auto known = std::find_if(m_pictures.begin(), m_pictures.end(), [&](const QImage& kept) {
-        return kept.cacheKey() == picture.cacheKey();
+        return kept.cacheKey() == picture.cacheKey() || kept == picture;
     });
     const auto number = static_cast<quint16>(known - m_pictures.begin());
     if (known == m_pictures.end())

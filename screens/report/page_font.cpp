@@ -195,6 +195,13 @@ int fittingLength(QStringView text, const PageFont& font, int width)
     return length;
 }
 
+PageFont fittingFont(QStringView text, PageFont font, int width, double smallest)
+{
+    while (font.size > smallest && textWidth(text, font) > width)
+        font.size -= 1;
+    return font;
+}
+
 QStringList wrappedLines(const QString& text, const PageFont& font, int width)
 {
     QStringList lines;

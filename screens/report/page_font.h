@@ -38,6 +38,10 @@ int ascentOf(const PageFont& font);
 // How many characters from the left fit the width.
 int fittingLength(QStringView text, const PageFont& font, int width);
 
+// The font, or the same in a smaller size by whole points, down to `smallest`, in which the text
+// fits the width; the smallest where it fits in none.
+PageFont fittingFont(QStringView text, PageFont font, int width, double smallest);
+
 // The lines of a text in that width: broken at its own line breaks and at blanks, and within a word
 // that is wider than a line. At least one line.
 QStringList wrappedLines(const QString& text, const PageFont& font, int width);

@@ -6,6 +6,7 @@ namespace {
 
 constexpr int cellPadding = 50;  // left and right of a cell's text
 constexpr int footHeight = 200;
+constexpr double smallestSize = 6;  // points, of a text that is made to fit
 
 // The cells of the foot strip, from left to right.
 class FootStrip
@@ -48,12 +49,8 @@ private:
 // The largest of the sizes in which the text fits; the smallest when it fits in none.
 PageFont cellFont(const QString& text, int width, CellFlags flags)
 {
-    PageFont font{FontFamily::CourierNew, flags.bold, 8};
-    if (flags.wraps)
-        return font;
-    while (font.size > 6 && textWidth(text, font) > width)
-        font.size -= 1;
-    return font;
+    const PageFont font{FontFamily::CourierNew, flags.bold, 8};
+    return flags.wraps ? font : fittingFont(text, font, width, smallestSize);
 }
 
 int roomIn(const PageBox& box)
@@ -71,6 +68,17 @@ QStringList cellLines(const PageBox& box, const QString& text, const PageFont& f
 int depthOf(const PageBox& box, qsizetype lineCount, const PageFont& font)
 {
     return std::max(box.height, static_cast<int>(lineCount) * lineHeight(font) + cellPadding);
+}
+
+// The largest size in which a box holds its text.
+PageFont boxFont(const QString& text, PageFont font, int width, int height, BoxFieldFlags flags)
+{
+    if (!flags.wraps)
+        return fittingFont(text, font, width, smallestSize);
+    while (font.size > smallestSize &&
+           wrappedLines(text, font, width).size() * lineHeight(font) > height)
+        font.size -= 1;
+    return font;
 }
 
 void writeAligned(PageDocument& pages, const QString& line, const PageBox& box, int y)
@@ -134,6 +142,8 @@ void dnReportBoxField(PageDocument& pages, const PageBox& box, const QString& la
     const int x = box.left + 100;
     int y = box.top + (flags.large ? 120 : 200);
     const int room = box.left + box.width - x;
+    if (flags.shrinks)
+        pages.style.font = boxFont(text, pages.style.font, room, box.top + box.height - y, flags);
     if (!flags.wraps) {
         pages.setPosition(x, y);
         pages.writeText(text.left(fittingLength(text, pages.style.font, room)));
@@ -196,6 +206,22 @@ int reportLinesIn(int depth)
 {
     const PageFont font = cellFont({}, 0, {.wraps = true});
     return (depth - cellPadding) / lineHeight(font);
+}
+
+int reportCellLength(int width, const QString& text)
+{
+    const int room = roomIn({0, 0, width, 0});
+    return fittingLength(text, cellFont(text, room, {}), room);
+}
+
+void dnReportCellText(PageDocument& pages, const PageBox& box, const QString& text, CellFlags flags)
+{
+    const StyleKeeper keeper(pages);
+    pages.style.font = cellFont(text, roomIn(box), flags);
+    pages.style.alignment = flags.alignment;
+    const int free = box.height - pages.heightOfLine();
+    writeAligned(pages, cellLines(box, text, pages.style.font, false).first(), box,
+                 box.top + free / 2);
 }
 
 int dnReportCell(PageDocument& pages, const PageBox& box, const QString& text, CellFlags flags)

@@ -21,6 +21,7 @@ struct BoxFieldFlags
     bool boldLabel = false;
     bool large = false;  // the text in Times New Roman 14, otherwise in Courier New 10
     bool wraps = false;
+    bool shrinks = false;  // down to 6, where the text fits in a smaller size only
 };
 // A box with a small label in its corner and the text below it. A text that wraps has its first
 // line always, further ones as the box has room.
@@ -48,11 +49,17 @@ struct CellFlags
 int dnReportCell(PageDocument& pages, const PageBox& box, const QString& text,
                  CellFlags flags = {});
 
+// The text of such a cell alone, in one line, without box and fill.
+void dnReportCellText(PageDocument& pages, const PageBox& box, const QString& text,
+                      CellFlags flags = {});
+
 // The depth that dnReportCell would give.
 int reportCellDepth(const PageBox& box, const QString& text, CellFlags flags = {});
 
 // The lines of a cell that wraps, and how many of them a cell of this depth holds.
 QStringList reportCellLines(int width, const QString& text);
+// How many characters a cell that does not wrap shows, in the smallest of its sizes.
+int reportCellLength(int width, const QString& text);
 int reportLinesIn(int depth);
 
 // "Letter, 8½ x 11 in." and so on; "Invalid Size Detected" for a paper other than the three.

@@ -1,0 +1,679 @@
+#include "purchasing/document_list.h"
+
+#include "core/locators.h"
+#include "core/site_settings.h"
+#include "core/storage/storage_error.h"
+#include "core/tag_list.h"
+#include "core/text.h"
+#include "core/user_settings.h"
+#include "multiuser/users.h"
+#include "purchasing/document_head.h"
+#include "purchasing/document_marks.h"
+#include "purchasing/document_numbers.h"
+#include "purchasing/line_list.h"
+#include "screens/browse/browse_session.h"
+#include "screens/browse/browse_window.h"
+#include "screens/data/data_window.h"
+#include "screens/search/order_searches.h"
+#include "screens/search/vendor_searches.h"
+
+using Option = DocumentFilter::Option;
+
+namespace {
+
+constexpr char detailMode[] = "L";        // line items, under the record lock
+constexpr char detailInViewMode[] = "M";  // line items, to be looked at only
+constexpr char closedRight[] = "REQ03";
+
+const DocumentKind& kindOf(const BrowseSession& list)
+{
+    return list.spec().table == purchaseOrders.table ? purchaseOrders : requisitions;
+}
+
+// ---- what is remembered for the user
+struct RememberedFilter
+{
+    const char* option;
+    const char* CONO;
+    const char* JOBNO;
+    const char* VENTAG;
+    const char* tag;  // the last document
+};
+const RememberedFilter& rememberedFilter(const DocumentKind& kind)
+{
+    static constexpr RememberedFilter ofRequisitions{
+        "VEXREQFILTEROPT", "VEXREQFILTERCONO", "VEXREQFILTERJOBNO", "VEXREQFILTERVENTAG", "REQTAG"};
+    static constexpr RememberedFilter ofOrders{"VEXPOFILTEROPT", "VEXPOFILTERCONO",
+                                               "VEXPOFILTERJOBNO", "VEXPOFILTERVENTAG", "POTAG"};
+    return kind.isOrder() ? ofOrders : ofRequisitions;
+}
+
+class UserSettings
+{
+public:
+    explicit UserSettings(const Session& session)
+        : m_open(openTable(session, "ZORUSER.mdb", "VEXSETTINGS")), m_site(session.SiteTag)
+    {
+    }
+    storage::Value operator[](const char* field)
+    {
+        return zorGetUserSetting(m_open.rows, m_site, field);
+    }
+    void save(const char* field, const storage::Value& value)
+    {
+        zorSaveUserSetting(m_open.rows, m_site, field, value);
+    }
+
+private:
+    OpenTable m_open;
+    qint32 m_site;
+};
+
+// What a list knows beside its rows.
+struct ListState
+{
+    qint32 REQTAG = 0;  // the orders of that requisition only
+    DocumentFilter filter = {};
+    bool usesColors = false;
+};
+using State = std::shared_ptr<ListState>;
+
+// ---- the filter
+void browse(BrowseSession& list, const DocumentFilter& filter)
+{
+    const bool isOrder = kindOf(list).isOrder();
+    switch (filter.option) {
+        case Option::None:
+            return list.browseBy(isOrder ? "PONO" : "REQNO", {});
+        case Option::Job:
+            return list.browseBy(isOrder ? "POLIST" : "REQLIST",
+                                 {{"CONO", filter.CONO}, {"JOBNO", filter.JOBNO}});
+        case Option::Vendor:
+            return list.browseBy(isOrder ? "POVEN" : "REQVEN", {{"VENTAG", filter.VENTAG}});
+    }
+}
+
+// A filter that finds nothing turns itself off.
+void applyFilter(BrowseSession& list, ListState& state)
+{
+    browse(list, state.filter);
+    if (state.filter.option == Option::None || !list.list().isEmpty())
+        return;
+    showCritical("Filter Error",
+                 QString(state.filter.option == Option::Job
+                             ? "Cannot Find any Records Matching Co./Job No. Filter Selection."
+                             : "Cannot Find any Records Matching Vendor Filter Selection.") +
+                     "\nFilter Selection will be Turned Off.");
+    state.filter.option = Option::None;
+    browse(list, state.filter);
+}
+
+void showDocument(BrowseSession& list, ListState& state, qint32 tag)
+{
+    if (list.showTag(tag) || state.REQTAG != 0)
+        return;
+    // Another filter's: all are shown, so that it is among them.
+    if (state.filter.option == Option::None)
+        return;
+    state.filter.option = Option::None;
+    browse(list, state.filter);
+    list.showTag(tag);
+}
+
+void openList(BrowseSession& list, ListState& state)
+{
+    UserSettings settings(list.session());
+    const RememberedFilter& names = rememberedFilter(kindOf(list));
+    state.usesColors = settings["USESTATUSCOLORS"].toBool();
+    if (state.REQTAG != 0)
+        return list.browseBy("POREQ", {{"REQTAG", state.REQTAG}});
+    const int option = settings[names.option].toInt();
+    state.filter = {.option = option == 2   ? Option::Job
+                              : option == 3 ? Option::Vendor
+                                            : Option::None,
+                    .CONO = settings[names.CONO].toInt(),
+                    .JOBNO = settings[names.JOBNO].toString(),
+                    .VENTAG = settings[names.VENTAG].toInt()};
+    if (state.filter.option != Option::None)
+        applyFilter(list, state);
+    list.showTag(settings[names.tag].toInt());
+}
+
+void closeList(BrowseSession& list, const ListState& state)
+{
+    if (state.REQTAG != 0)
+        return;
+    const qint32 tag = list.currentTag();
+    UserSettings settings(list.session());
+    const RememberedFilter& names = rememberedFilter(kindOf(list));
+    settings.save(names.option, static_cast<int>(state.filter.option));
+    settings.save(names.CONO, state.filter.CONO);
+    settings.save(names.JOBNO, state.filter.JOBNO);
+    settings.save(names.VENTAG, state.filter.VENTAG);
+    settings.save(names.tag, tag);
+}
+
+QString filterText(const ListState& state)
+{
+    if (state.REQTAG != 0)
+        return "Filter: Requisition";
+    switch (state.filter.option) {
+        case Option::Job:
+            return "Filter: Company/Job Number";
+        case Option::Vendor:
+            return "Filter: Vendor";
+        case Option::None:
+            break;
+    }
+    return "Filter: <none>";
+}
+
+// ---- what is shown
+QString statusOf(const storage::Recordset& rows)
+{
+    const QString status = trimmedTextOf(rows["Status"]);
+    return status.isEmpty() ? QString("Open") : status;
+}
+
+RowTone toneOf(const QString& status)
+{
+    if (status == "Closed")
+        return RowTone::Muted;
+    if (status == "Voided" || status == "Critical")
+        return RowTone::Bad;
+    if (status == "Urgent" || status == "Submitted")
+        return RowTone::Warning;
+    return status == "Open" ? RowTone::Plain : RowTone::Good;
+}
+
+QString markText(const BrowseSession& list, storage::Recordset& rows)
+{
+    const DocumentKind& kind = kindOf(list);
+    storage::Recordset& marks = list.beside("TAGLIST");
+    return zorTagListCheck(marks, documentMarks, 0, kind.code, intOf(rows[kind.tag])) ? "T" : "";
+}
+
+QString vendorText(const BrowseSession& list, storage::Recordset& rows, schema::FieldName field)
+{
+    const int tag = intOf(rows["VENTAG"]);
+    if (tag == 0)
+        return field == schema::FieldName("Name") ? QString(" <none>") : QString();
+    storage::Recordset& vendors = list.beside("VENDORS");
+    vendors.Index("VENTAG");
+    return vendors.Seek("=", tag) ? trimmedTextOf(vendors[field]) : QString("?????");
+}
+
+BrowseColumn vendorColumn(schema::FieldName field, const QString& heading, int length, int width)
+{
+    return {.field = "VENTAG",
+            .length = length,
+            .heading = heading,
+            .width = width,
+            .shows = [field](const BrowseSession& list, storage::Recordset& rows) {
+                return vendorText(list, rows, field);
+            }};
+}
+
+BrowseColumn markColumn()
+{
+    return {.field = "VENTAG",
+            .length = 1,
+            .heading = "Tag",
+            .width = 450,
+            .alignment = Qt::AlignHCenter,
+            .shows = markText,
+            .isPrinted = false};
+}
+
+BrowseColumn statusColumn()
+{
+    return {.field = "Status",
+            .length = 10,
+            .heading = "Status",
+            .width = 950,
+            .shows = [](const BrowseSession&, storage::Recordset& rows) { return statusOf(rows); }};
+}
+
+BrowseColumn number(schema::FieldName field, int length, const QString& heading, int width,
+                    const QString& format)
+{
+    return {.field = field,
+            .length = length,
+            .heading = heading,
+            .width = width,
+            .format = format,
+            .alignment = Qt::AlignRight};
+}
+
+std::vector<BrowseColumn> requisitionColumns()
+{
+    return {markColumn(),
+            {.field = "REQNO",
+             .length = 5,
+             .heading = "Req. #",
+             .width = 750,
+             .shows =
+                 [](const BrowseSession&, storage::Recordset& rows) {
+                     return shownRequisitionNumber(intOf(rows["REQNO"]));
+                 }},
+            number("CONO", 2, "Co", 400, "##"),
+            {.field = "JOBNO", .length = 8, .heading = "Job No.", .width = 1000},
+            {.field = "FDATE", .length = 10, .heading = "Date", .width = 1300},
+            number("AMOUNT", 13, "Amount", 1400, "##,###,###.00"),
+            statusColumn(),
+            vendorColumn("VENNO", "Vendor #", 10, 1000),
+            vendorColumn("Name", "Vendor Name", 40, 2900),
+            {.field = "PONO",
+             .length = 16,
+             .heading = "PO No.",
+             .width = 1700,
+             .headingFor = [](const BrowseSession& list) -> QString {
+                 return siteSwitch(list.session().JobSitePath, "VEXUSEPONOCOUNTER") ? "PO Base No."
+                                                                                    : "PO No.";
+             }}};
+}
+
+std::vector<BrowseColumn> orderColumns()
+{
+    return {markColumn(),
+            statusColumn(),
+            number("REVNO", 2, "Rev", 450, "#0"),
+            {.field = "PONO", .length = 16, .heading = "PO No.", .width = 1700},
+            number("CONO", 2, "Co", 400, "##"),
+            {.field = "JOBNO", .length = 8, .heading = "Job No.", .width = 1000},
+            {.field = "FDATE", .length = 10, .heading = "Date", .width = 1300},
+            {.field = "CMRNO", .length = 10, .heading = "Cust. Req. #", .width = 1100},
+            number("AMOUNT", 14, "Amount", 1450, "###,###,###.00"),
+            {.field = "VEXDLTAG",
+             .length = 5,
+             .heading = "D/L #",
+             .width = 650,
+             .alignment = Qt::AlignRight,
+             .shows =
+                 [](const BrowseSession&, storage::Recordset& rows) {
+                     const int tag = intOf(rows["VEXDLTAG"]);
+                     return tag == 0 ? QString("-") : QString::number(tag);
+                 }},
+            vendorColumn("VENNO", "Vendor #", 10, 1000),
+            vendorColumn("Name", "Vendor Name", 40, 2900)};
+}
+
+// ---- rights
+bool isOpenOrAllowed(BrowseSession& list, bool isShown)
+{
+    return kindOf(list).isOrder() || statusOf(list.list().rows()) == "Open" ||
+           dnOK2Access(closedRight, list.session().UserName, isShown);
+}
+
+bool mayOpen(BrowseSession& list, const QString& mode)
+{
+    return mode != "E" && mode != "D" ? true : isOpenOrAllowed(list, true);
+}
+
+// ---- screens
+bool openDocument(BrowseSession& list, const QString& mode, qint32 tag, qint16 winTag)
+{
+    const DocumentKind& kind = kindOf(list);
+    if (mode == detailMode || mode == detailInViewMode) {
+        openLineItems(list.session(), kind,
+                      {.docTag = tag, .winTag = winTag, .isReadOnly = mode == detailInViewMode});
+        return true;
+    }
+    const JobNoFormat format = zorGetJobNoFormat(list.session().JobSitePath);
+    return openDataScreen(frmVEXREQ02(list.session(), kind, format), list.session(),
+                          {.mode = mode,
+                           .index = kind.byTag,
+                           .keys = {{kind.tag, tag}},
+                           .winTag = winTag,
+                           .tag = tag});
+}
+
+void openDetailItems(BrowseSession& list)
+{
+    const DocumentKind& kind = kindOf(list);
+    if (!list.list().goToCurrent()) {
+        if (kind.isOrder())
+            showCritical("Cannot Continue",
+                         "Must be at a Purchase Order in the List to Browse Detail.");
+        return;
+    }
+    if (kind.isOrder() && !dnOK2Access("PO02", list.session().UserName, true))
+        return;
+    list.openDetail(isOpenOrAllowed(list, false) ? detailMode : detailInViewMode);
+}
+
+void openOrders(BrowseSession& list)
+{
+    openBrowseScreen(ordersOfRequisition(list.currentTag()), list.session());
+}
+
+// ---- commands
+void changeStatus(BrowseSession& list, ListState& state)
+{
+    const DocumentKind& kind = kindOf(list);
+    if (!list.list().goToCurrent())
+        return kind.isOrder() ? showCritical("Error Displaying Form",
+                                             "Must be on a Purchase Order to Change Status. ")
+                              : showCritical("Error", "Must be at a Requisition to Change Status.");
+    if (!isOpenOrAllowed(list, true))
+        return;
+    const qint32 tag = list.currentTag();
+    const auto choice = chooseStatus(kind, {statusOf(list.list().rows()), state.usesColors});
+    if (!choice)
+        return;
+    kind.isOrder() ? setOrderStatus(list.session(), tag, choice->status)
+                   : setRequisitionStatus(list.session(), tag, choice->status);
+    state.usesColors = choice->usesColors;
+    UserSettings(list.session()).save("USESTATUSCOLORS", choice->usesColors);
+    list.list().rebuild();
+}
+
+void toggleDocumentMark(BrowseSession& list)
+{
+    const DocumentKind& kind = kindOf(list);
+    if (!list.list().goToCurrent())
+        return;
+    const storage::Recordset& rows = list.list().rows();
+    const QString number =
+        kind.isOrder() ? trimmedTextOf(rows["PONO"]) : shownRequisitionNumber(intOf(rows["REQNO"]));
+    toggleMark(list.session(), kind, intOf(rows[kind.tag]), number);
+    list.list().repaint();
+}
+
+void clearDocumentMarks(BrowseSession& list)
+{
+    clearMarks(list.session(), kindOf(list));
+    list.list().rebuild();
+}
+
+void filter(BrowseSession& list, ListState& state)
+{
+    if (state.REQTAG != 0)
+        return;
+    const qint32 tag = list.currentTag();
+    const auto chosen = chooseFilter(list.session(), kindOf(list), state.filter);
+    if (!chosen)
+        return;
+    state.filter = *chosen;
+    applyFilter(list, state);
+    list.showTag(tag);
+}
+
+void find(BrowseSession& list, ListState& state)
+{
+    const DocumentKind& kind = kindOf(list);
+    qint32 tag = 0;
+    const auto isThere = [&](const QString& text) {
+        OpenTable documents = openTable(list.session(), "ZORVEX.mdb", kind.table);
+        documents.rows.Index(kind.byNumber);
+        const bool isFound = kind.isOrder() ? documents.rows.Seek("=", text)
+                                            : documents.rows.Seek("=", text.toInt());
+        if (isFound)
+            tag = intOf(documents.rows[kind.tag]);
+        else
+            showCritical("Cannot Find Item",
+                         (kind.isOrder() ? QString("Cannot Find PO Number: ")
+                                         : QString("Cannot Find Requisition Number: ")) +
+                             text);
+        return isFound;
+    };
+    if (askText({.screen = kind.isOrder() ? "frmVEXPO02" : "frmVEXREQ03",
+                 .caption = kind.isOrder() ? "Find a PO Number" : "Find a Requisition #",
+                 .label = kind.isOrder() ? "&PO Number:" : "&Requisition Number:",
+                 .control = kind.isOrder() ? "txtPONO" : "txtREQNO",
+                 .length = kind.isOrder() ? 16 : 5,
+                 .accepts = isThere}))
+        showDocument(list, state, tag);
+}
+
+// The document of a bookmark that a search window gave.
+void showFound(BrowseSession& list, ListState& state, const QString& bookmark)
+{
+    OpenTable documents = openTable(list.session(), "ZORVEX.mdb", kindOf(list).table);
+    if (goToFound(documents.rows, bookmark))
+        showDocument(list, state, intOf(documents.rows[kindOf(list).tag]));
+}
+
+void searchByVendor(BrowseSession& list, ListState& state)
+{
+    const QString& site = list.session().JobSitePath;
+    OpenTable vendors = openTable(list.session(), "ZORVEX.mdb", "VENDORS");
+    if (!goToFound(vendors.rows, zorSearchVendor(site)))
+        return;
+    const qint32 tag = intOf(vendors.rows["VENTAG"]);
+    const QString number = trimmedTextOf(vendors.rows["VENNO"]);
+    const QString name = trimmedTextOf(vendors.rows["Name"]);
+    showFound(list, state,
+              kindOf(list).isOrder() ? zorSearchPOByVendor(site, tag, number, name)
+                                     : zorSearchRequisition(site, tag, number, name));
+}
+
+void searchByInvoice(BrowseSession& list, ListState& state)
+{
+    OpenTable payments = openTable(list.session(), "ZORVEX.mdb", "PAYMENTS");
+    if (!goToFound(payments.rows, zorSearchPayment(list.session().JobSitePath)))
+        return;
+    const auto refuse = [](const char* what, qint32 tag) {
+        showCritical("Cannot Find Item", what + QString::number(tag) +
+                                             " Associated with Selected Vendor Invoice Number.");
+    };
+    const qint32 RQITAG = intOf(payments.rows["RQITAG"]);
+    OpenTable lines = openTable(list.session(), "ZORVEX.mdb", "RQILIST");
+    lines.rows.Index("RQITAG");
+    if (!lines.rows.Seek("=", RQITAG))
+        return refuse("Cannot Find RQI Tag: ", RQITAG);
+    const qint32 POTAG = intOf(lines.rows["POTAG"]);
+    OpenTable orders = openTable(list.session(), "ZORVEX.mdb", "POLIST");
+    orders.rows.Index("POTAG");
+    if (!orders.rows.Seek("=", POTAG))
+        return refuse("Cannot Find PO Tag: ", POTAG);
+    showDocument(list, state, POTAG);
+}
+
+void clone(BrowseSession& list, ListState& state)
+{
+    if (!list.list().goToCurrent())
+        return;
+    const qint32 tag = list.currentTag();
+    const storage::Recordset& rows = list.list().rows();
+    const QString site = list.session().JobSitePath;
+    const auto number =
+        askText({.screen = "frmVEXPO07",
+                 .caption = "Clone a Purchase Order",
+                 .label = "&New PO Number:",
+                 .control = "txtNEWPONO",
+                 .length = 16,
+                 .notice = "Company: " + QString::number(intOf(rows["CONO"])) +
+                           "    Job Number: " + trimmedTextOf(rows["JOBNO"]) +
+                           "    PO Number: " + trimmedTextOf(rows["PONO"]),
+                 .accepts = [&site](const QString& text) {
+                     if (text.isEmpty()) {
+                         showCritical("Cannot Clone", "PO Number is Blank.");
+                         return false;
+                     }
+                     if (!isOrderNumberTaken(site, text))
+                         return true;
+                     showCritical("Duplicate PO Number",
+                                  "Duplicate PO Number Detected.\nThe PO Number you have entered\n"
+                                  "already exists in another record.\n"
+                                  "Cannot Proceed with PO Clone procedure.");
+                     return false;
+                 }});
+    if (number)
+        showDocument(list, state, cloneOrder(list.session(), tag, *number));
+}
+
+void postDownload(BrowseSession& list)
+{
+    if (markedDocuments(list.session(), purchaseOrders).empty())
+        return showCritical("Cannot Post", "Nothing to Do (There are No Tagged Items).");
+    const auto number = askText(
+        {.screen = "frmVEXPO10",
+         .caption = "Post D/L # to Tagged Purchase Orders",
+         .label = "&D/L Number:",
+         .control = "txtVEXDLTAG",
+         .length = 9,
+         .notice = "Note: Leave D/L Number Text Box  Blank to Clear              D/L #'s from "
+                   "Tagged Purchase Orders.",
+         .digitsOnly = true});
+    if (!number)
+        return;
+    postDownloadNumber(list.session(), number->toInt(), [] {
+        return askYesNo("OK to Overwrite?",
+                        "This Purchase Order has Already Been Assigned\n"
+                        "a Download Number. Ok to Change Existing Download Number?");
+    });
+    list.list().rebuild();
+}
+
+void notReady(BrowseSession&)
+{
+    dnNotReady();
+}
+
+BrowseCommand detailCommand()
+{
+    return {
+        .name = "cmdDetail", .caption = "Browse De&tail", .run = openDetailItems, .key = Qt::Key_T};
+}
+
+std::vector<BrowseCommand> commandsOf(const DocumentKind& kind, const State& state)
+{
+    const auto with = [&state](void (*run)(BrowseSession&, ListState&)) {
+        return [state, run](BrowseSession& list) { run(list, *state); };
+    };
+    std::vector<BrowseCommand> all = {detailCommand()};
+    if (!kind.isOrder())
+        all.push_back({.name = "cmdPOBrowse",
+                       .caption = "PO &Browse",
+                       .run = openOrders,
+                       .key = Qt::Key_B,
+                       .needsRecord = true});
+    all.push_back(
+        {.name = "cmdStatus", .caption = "Stat&us", .run = with(changeStatus), .key = Qt::Key_U});
+    if (kind.isOrder())
+        all.push_back({.name = "cmdClone",
+                       .caption = "Clo&ne",
+                       .run = with(clone),
+                       .key = Qt::Key_N,
+                       .needsRecord = true});
+    all.push_back({.name = "cmdTAGEM",
+                   .caption = "Ta&g",
+                   .run = toggleDocumentMark,
+                   .key = Qt::Key_G,
+                   .needsRecord = true});
+    all.push_back({.name = "cmdClearTags",
+                   .caption = "&Clear Tags",
+                   .run = clearDocumentMarks,
+                   .key = Qt::Key_C});
+    if (kind.isOrder())
+        all.push_back({.name = "cmdPostDLNO",
+                       .caption = "Post D/&L #",
+                       .run = postDownload,
+                       .key = Qt::Key_L});
+    all.push_back(
+        {.name = "cmdFilter", .caption = "&Filter", .run = with(filter), .key = Qt::Key_F});
+    all.push_back({.name = "cmdFind", .caption = "F&ind", .run = with(find), .key = Qt::Key_I});
+    if (!kind.isOrder()) {
+        all.push_back({.name = "cmdSearch",
+                       .caption = "&Search by Vendor Name/Req Date",
+                       .run = with(searchByVendor),
+                       .key = Qt::Key_S});
+        all.push_back({.name = "cmdSearchbyKeyword",
+                       .caption = "Search by &Keyword",
+                       .run = notReady,
+                       .key = Qt::Key_K});
+        all.push_back({.name = "cmdSSFill",
+                       .caption = "SpreadSheet Fi&ll",
+                       .run =
+                           [](BrowseSession& list) {
+                               if (isOpenOrAllowed(list, true))
+                                   dnNotReady();
+                           },
+                       .key = Qt::Key_L,
+                       .needsRecord = true});
+        return all;
+    }
+    all.push_back({.name = "cmdPONOSearch",
+                   .caption = "Search P&O Number",
+                   .run =
+                       [state](BrowseSession& list) {
+                           showFound(list, *state, zorSearchPO(list.session().JobSitePath));
+                       },
+                   .key = Qt::Key_O});
+    all.push_back({.name = "cmdSearchbyVendor",
+                   .caption = "&Search by Vendor",
+                   .run = with(searchByVendor),
+                   .key = Qt::Key_S});
+    all.push_back({.name = "cmdSearchbyCMRNO",
+                   .caption = "Search by Cust. Re&q. #",
+                   .run =
+                       [state](BrowseSession& list) {
+                           showFound(list, *state, zorSearchPOByCMRNO(list.session().JobSitePath));
+                       },
+                   .key = Qt::Key_Q});
+    all.push_back({.name = "cmdSearchPay",
+                   .caption = "Search by In&voice",
+                   .run = with(searchByInvoice),
+                   .key = Qt::Key_R});
+    all.push_back({.name = "cmdSearchbyKeyword",
+                   .caption = "Search by &Keyword",
+                   .run = notReady,
+                   .key = Qt::Key_K});
+    return all;
+}
+
+BrowseSpec documentList(const DocumentKind& kind, qint32 REQTAG)
+{
+    const auto state = std::make_shared<ListState>();
+    state->REQTAG = REQTAG;
+    return {
+        .name = kind.isOrder() ? "frmVEXPO01" : "frmVEXREQ01",
+        .caption = kind.isOrder() ? "Purchase Orders" : "Material Requisitions",
+        .table = kind.table,
+        .index = kind.byNumber,
+        .columns = kind.isOrder() ? orderColumns() : requisitionColumns(),
+        .besides = {{"ZORVEX.mdb", "VENDORS", "VENTAG"}, {"ZORUSER.mdb", "TAGLIST"}},
+        .editRight = kind.isOrder() ? "PO01" : "REQ02",
+        .detail = {.tagField = kind.tagName(),
+                   .tagIndex = kind.byTag,
+                   .mayOpen = mayOpen,
+                   .open = openDocument,
+                   .lock = kind.lock,
+                   .lockedModes = QString("ED") + detailMode,
+                   .hasView = true},
+        .print = {.run = notReady},
+        .commands = commandsOf(kind, state),
+        .status = [state](const BrowseSession&) { return filterText(*state); },
+        .tone =
+            [state](const BrowseSession&, storage::Recordset& rows) {
+                return state->usesColors ? toneOf(statusOf(rows)) : RowTone::Plain;
+            },
+        .opened = [state](BrowseSession& list) { openList(list, *state); },
+        .closing = [state](BrowseSession& list) { closeList(list, *state); },
+        .fillsDesktop = true,
+        .inFront =
+            [state](BrowseSession& list) {
+                if (state->filter.option != Option::None && list.list().isEmpty())
+                    applyFilter(list, *state);
+            },
+        .readsAnewInFront = true,
+    };
+}
+
+}  // namespace
+
+BrowseSpec frmVEXREQ01()
+{
+    return documentList(requisitions, 0);
+}
+
+BrowseSpec frmVEXPO01()
+{
+    return documentList(purchaseOrders, 0);
+}
+
+BrowseSpec ordersOfRequisition(qint32 REQTAG)
+{
+    return documentList(purchaseOrders, REQTAG);
+}
