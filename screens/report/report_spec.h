@@ -84,6 +84,7 @@ struct ReportBegin
     QString caption;
     std::function<void(ReportRun&)> print;
     std::function<std::optional<ReportRefusal>(const ReportRun&)> check = {};
+    Qt::Key key = Qt::Key_unknown;  // begins it, where no field takes what is typed
 };
 
 struct ReportSpec

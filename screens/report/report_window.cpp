@@ -244,5 +244,8 @@ void ReportWindow::keyPressEvent(QKeyEvent* event)
             return;
         }
     }
+    for (size_t i = 0; i < m_begins.size(); ++i)
+        if (isPlain && event->key() == m_run.spec().begins[i].key && m_begins[i]->isVisible())
+            return beginRun(i);
     QWidget::keyPressEvent(event);
 }
