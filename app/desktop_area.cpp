@@ -49,6 +49,8 @@ DesktopArea::DesktopArea(const QString& programName) : m_programName(programName
 {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // When a screen closes, the one that opened it is in front again, however many stand open.
+    setActivationOrder(ActivationHistoryOrder);
     takeBackground();
     connect(this, &QMdiArea::subWindowActivated, this, [](const QMdiSubWindow* window) {
         if (!window || !window->widget())
@@ -175,7 +177,9 @@ void DesktopArea::takeBackground()
 void DesktopArea::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange)
-        takeBackground();
+        // When a screen closes, the one that opened it is in front again, however many stand open.
+    setActivationOrder(ActivationHistoryOrder);
+    takeBackground();
     QMdiArea::changeEvent(event);
 }
 

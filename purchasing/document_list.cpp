@@ -10,10 +10,13 @@
 #include "purchasing/document_head.h"
 #include "purchasing/document_marks.h"
 #include "purchasing/document_numbers.h"
+#include "purchasing/forms/document_prints.h"
 #include "purchasing/line_list.h"
 #include "screens/browse/browse_session.h"
 #include "screens/browse/browse_window.h"
 #include "screens/data/data_window.h"
+#include "screens/desktop.h"
+#include "screens/report/report_window.h"
 #include "screens/search/order_searches.h"
 #include "screens/search/vendor_searches.h"
 
@@ -347,6 +350,14 @@ void openOrders(BrowseSession& list)
     openBrowseScreen(ordersOfRequisition(list.currentTag()), list.session());
 }
 
+// The marked documents, or the one under the highlight.
+void openPrint(BrowseSession& list)
+{
+    const qint32 tag = list.currentTag();
+    openScreen(new ReportWindow(kindOf(list).isOrder() ? frmVEXPO04(tag) : frmVEXREQ04(tag),
+                                list.session()));
+}
+
 // ---- commands
 void changeStatus(BrowseSession& list, ListState& state)
 {
@@ -642,7 +653,7 @@ BrowseSpec documentList(const DocumentKind& kind, qint32 REQTAG)
                    .lock = kind.lock,
                    .lockedModes = QString("ED") + detailMode,
                    .hasView = true},
-        .print = {.run = notReady},
+        .print = {.run = openPrint},
         .commands = commandsOf(kind, state),
         .status = [state](const BrowseSession&) { return filterText(*state); },
         .tone =

@@ -11,7 +11,7 @@ namespace line {
 // Controls that no field of the table stands behind, and how numbers are shown.
 inline constexpr char branch[] = "txtILCCODE";
 inline constexpr char part[] = "txtPARTNO";
-inline constexpr char quantityMask[] = "#########.#####";
+inline constexpr char quantityMask[] = "";  // as many decimals as it has
 inline constexpr char priceMask[] = "#########.000";
 
 struct Item

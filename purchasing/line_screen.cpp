@@ -298,7 +298,6 @@ std::vector<EntryField> itemFields(const LineOwner& owner)
              .field = "QTY",
              .caption = "&Quantity:",
              .length = 13,
-             .format = line::quantityMask,
              .alignment = Qt::AlignRight,
              .check = line::checkQuantity(owner),
              .left = line::quantityLeft},

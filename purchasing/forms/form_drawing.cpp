@@ -52,7 +52,7 @@ public:
           m_left(m_pages.margins.left),
           m_width(m_pages.pageWidth() - m_pages.margins.left - m_pages.margins.right),
           m_widths(columnWidths(form, m_width)),
-          m_logo(document.logo)
+          m_logo(document.logo.isEmpty() ? QImage() : QImage(document.logo))
     {
         if (m_form.totals)
             m_form.totals->further = totals;

@@ -161,6 +161,10 @@ QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
         next += height;
         QWidget* control = m_fields->control(at, form);
         m_pageOf.push_back(area);
+        // Names come and go with what is typed: the form keeps room for the usual ones.
+        constexpr int nameLength = 30;
+        if (field.kind == Kind::Shown)
+            control->setMinimumWidth(control->fontMetrics().averageCharWidth() * nameLength);
         if (field.kind == Kind::Heading) {
             QFont font = control->font();
             font.setBold(true);
