@@ -54,7 +54,8 @@ struct Form
 
 // The columns' widths on a page that is so wide between its margins.
 std::vector<int> columnWidths(const Form& form, int width);
-// How many characters a line of the description holds.
+// How many characters a cell of that width holds in its full size, and a line of the description.
+int cellLength(int width);
 int descriptionLength(const Form& form, int width);
 
 enum class OrderForm { Standard, Inventory, Payment, Receiving, Status, Billing, Issues };

@@ -32,12 +32,12 @@ struct DrawnRow
 // Where a text that is too long for its column is parted: behind a dash or a blank.
 qsizetype partOf(const QString& text, int width)
 {
-    const qsizetype fits = reportCellLength(width, text);
+    const qsizetype fits = cellLength(width);
     if (fits >= text.size())
         return text.size();
     const qsizetype dash =
         std::max(text.lastIndexOf('-', fits - 1), text.lastIndexOf(' ', fits - 1));
-    return dash > 0 ? dash + 1 : std::max<qsizetype>(fits, 1);
+    return dash > 0 ? dash + 1 : fits;
 }
 
 class FormPages

@@ -24,7 +24,7 @@ QString withMark(const QString& number, const QString& mark)
 }
 
 // ---- columns
-FormColumn itemColumn(const QString& heading = "ITEM", int width = 430)
+FormColumn itemColumn(const QString& heading = "ITEM", int width = 480)
 {
     return {heading, width, TextAlignment::Centre,
             [](const FormRow& row) { return dnFormat(row.item, "###"); }};
@@ -91,7 +91,7 @@ std::vector<FormColumn> standardColumns(const FormSettings& settings)
         columns.push_back(column);
     if (settings.hasAssetColumn)
         columns.push_back(
-            {"ASSET", 560, TextAlignment::Centre, [](const FormRow& row) { return row.asset; }});
+            {"ASSET", 640, TextAlignment::Centre, [](const FormRow& row) { return row.asset; }});
     columns.push_back(costCodeColumn(settings));
     return columns;
 }
@@ -160,10 +160,10 @@ std::vector<FormBoxRow> standardHead(const QString& requisitionLabel, bool hasRe
         numbers.boxes.push_back({"JOB NUMBER", &FormDocument::jobNumber, 180});
     FormBoxRow delivery{boxHeight,
                         {{"SHIP VIA", &FormDocument::shipVia, 550},
-                         {"FOB", &FormDocument::fob, 270},
-                         pageBox(hasRevision ? 110 : 180)}};
+                         {"FOB", &FormDocument::fob, 250},
+                         pageBox(hasRevision ? 135 : 200)}};
     if (hasRevision)
-        delivery.boxes.push_back({"REV.", &FormDocument::revision, 70});
+        delivery.boxes.push_back({"REV.", &FormDocument::revision, 65});
     return {numbers,
             delivery,
             {boxHeight,
@@ -298,7 +298,7 @@ std::vector<FormColumn> columnsOf(OrderForm form, const FormSettings& settings)
             break;
     }
     std::vector<FormColumn> columns = standardColumns(settings);
-    columns.push_back({"REV.", 420, TextAlignment::Centre,
+    columns.push_back({"REV.", 480, TextAlignment::Centre,
                        [](const FormRow& row) { return dnFormat(row.revision, "##"); }});
     return columns;
 }
@@ -316,12 +316,17 @@ std::vector<int> columnWidths(const Form& form, int width)
     return widths;
 }
 
+int cellLength(int width)
+{
+    return std::max(1, (width - 2 * cellPadding) / characterWidth);
+}
+
 int descriptionLength(const Form& form, int width)
 {
     const std::vector<int> widths = columnWidths(form, width);
     for (size_t i = 0; i < widths.size(); ++i)
         if (form.columns[i].width == 0)
-            return std::max(1, (widths[i] - 2 * cellPadding) / characterWidth);
+            return cellLength(widths[i]);
     return 1;
 }
 

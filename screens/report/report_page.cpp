@@ -208,12 +208,6 @@ int reportLinesIn(int depth)
     return (depth - cellPadding) / lineHeight(font);
 }
 
-int reportCellLength(int width, const QString& text)
-{
-    const int room = roomIn({0, 0, width, 0});
-    return fittingLength(text, cellFont(text, room, {}), room);
-}
-
 void dnReportCellText(PageDocument& pages, const PageBox& box, const QString& text, CellFlags flags)
 {
     const StyleKeeper keeper(pages);

@@ -58,8 +58,6 @@ int reportCellDepth(const PageBox& box, const QString& text, CellFlags flags = {
 
 // The lines of a cell that wraps, and how many of them a cell of this depth holds.
 QStringList reportCellLines(int width, const QString& text);
-// How many characters a cell that does not wrap shows, in the smallest of its sizes.
-int reportCellLength(int width, const QString& text);
 int reportLinesIn(int depth);
 
 // "Letter, 8½ x 11 in." and so on; "Invalid Size Detected" for a paper other than the three.
