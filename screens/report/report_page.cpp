@@ -178,7 +178,9 @@ void dnReportColumnHead(PageDocument& pages, const PageBox& box, const QString& 
     const int height = pages.heightOfLine();
     int y = box.top + (box.height - static_cast<int>(lines.size()) * height) / 2;
     for (const QString& line : lines) {
-        // A heading may use the padding before it is cut.
+        // A heading may use the padding, and then a smaller font, before it is cut.
+        const PageFont full{FontFamily::Arial, true, 8};
+        pages.style.font = fittingFont(line, full, box.width - 20, smallestSize);
         const bool isTight = pages.widthOf(line) > roomIn(box);
         pages.style.alignment = isTight ? TextAlignment::Left : alignment;
         const QString shown = line.left(fittingLength(line, pages.style.font, box.width - 20));
