@@ -59,10 +59,10 @@ FormRow rowOf(const storage::Recordset& line, const DocumentKind& kind)
             .asset = assetText(trimmedTextOf(line["ASSET"]).toUpper())};
 }
 
-void addNote(FormBody& body, const QString& text)
+void addNote(const FormSource& source, FormBody& body, const QString& text)
 {
     body.buffer.addBlank();
-    body.buffer.add({.text = text});
+    body.buffer.addDescribed({}, text, source.width);
     body.buffer.addBlank();
 }
 
@@ -118,7 +118,7 @@ FormBody orderedLines(const FormSource& source, const DocumentKind& kind)
         body.buffer.addDescribed(row, textOf(line["Desc"]), source.width);
     });
     if (body.buffer.isEmpty())
-        addNote(body, "No Line Items Found.");
+        addNote(source, body, "No Line Items Found.");
     return body;
 }
 
@@ -188,7 +188,7 @@ FormBody movementBody(const FormSource& source, const Movement& movement,
         });
     });
     if (body.buffer.isEmpty())
-        addNote(body, "Cannot Find any Related Line Items.");
+        addNote(source, body, "Cannot Find any Related Line Items.");
     else if (hasSubtotals)
         addSubtotals(source, body);
     return body;
@@ -267,7 +267,7 @@ FormBody statusBody(const FormSource& source)
         body.buffer.addDescribed(row, textOf(line["Desc"]), source.width);
     });
     if (body.buffer.isEmpty())
-        addNote(body, "No Line Items Found.");
+        addNote(source, body, "No Line Items Found.");
     return body;
 }
 
@@ -303,7 +303,7 @@ FormBody billingBody(const FormSource& source, const QString& INVNO)
     for (const double sum : sums)
         body.totals.append(dnFormat(sum, amountMask));
     if (body.buffer.isEmpty())
-        addNote(body, "No Items Found. ");
+        addNote(source, body, "No Items Found. ");
     return body;
 }
 

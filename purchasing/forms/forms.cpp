@@ -120,9 +120,9 @@ std::vector<FormColumn> movementColumns(const FormSettings& settings, const QStr
             descriptionColumn(),
             priceColumn(),
             amountColumn(),
-            furtherColumn(date, 1320, TextAlignment::Centre, 0),
-            furtherColumn(reference, 1500, TextAlignment::Left, 1, true),
-            furtherColumn("JOB NUMBER", 1050, TextAlignment::Left, 2)};
+            furtherColumn(date, 1080, TextAlignment::Centre, 0),
+            furtherColumn(reference, 1460, TextAlignment::Left, 1, true),
+            furtherColumn("JOB NUMBER", 900, TextAlignment::Left, 2)};
 }
 
 std::vector<FormColumn> statusColumns()
