@@ -35,13 +35,6 @@ Item itemOn(const storage::Recordset& rows)
             .RETAIL = numberOf(rows["RETAIL"])};
 }
 
-bool hasCode(const Entry& entry, const char* table, const char* index, const QString& code)
-{
-    OpenTable open = openTable(entry.session(), "ZORVEX.mdb", table);
-    open.rows.Index(index);
-    return open.rows.Seek("=", code);
-}
-
 QString codeOfFound(const Entry& entry, const char* table, schema::FieldName field,
                     const QString& bookmark)
 {
@@ -286,9 +279,10 @@ std::function<void(Entry&)> costCodeLeft(const LineOwner& owner, const CostCodeG
 QString checkMaterialCode(const Entry& entry)
 {
     const QString code = entry["MCODE"].trimmed();
-    return code.isEmpty() || hasCode(entry, "MCLIST", "MCODE", code)
-               ? QString()
-               : "Cannot Find Material Code: " + code;
+    OpenTable codes = openTable(entry.session(), "ZORVEX.mdb", "MCLIST");
+    codes.rows.Index("MCODE");
+    return code.isEmpty() || codes.rows.Seek("=", code) ? QString()
+                                                        : "Cannot Find Material Code: " + code;
 }
 
 QString searchMaterialCode(const Entry& entry)
@@ -296,12 +290,15 @@ QString searchMaterialCode(const Entry& entry)
     return codeOfFound(entry, "MCLIST", "MCODE", zorSearchMaterialCode(siteOf(entry)));
 }
 
-QString checkGlCode(const Entry& entry)
+EntryCheck checkGlCode(const LineOwner& owner)
 {
-    const QString code = entry["GLCODE"].trimmed();
-    return code.isEmpty() || hasCode(entry, "GLCODES", "GLCODES", code)
-               ? QString()
-               : "Cannot Find G/L Code: " + code;
+    return [CONO = owner.CONO](const Entry& entry) -> QString {
+        const QString code = entry["GLCODE"].trimmed();
+        OpenTable codes = openTable(entry.session(), "ZORVEX.mdb", "GLCODES");
+        codes.rows.Index("GLCODES");
+        return code.isEmpty() || codes.rows.Seek("=", CONO, code) ? QString()
+                                                                  : "Cannot Find G/L Code: " + code;
+    };
 }
 
 std::function<QString(const Entry&)> searchGlCode(const LineOwner& owner)

@@ -58,7 +58,7 @@ std::function<void(Entry&)> costCodeLeft(const LineOwner& owner, const CostCodeG
 
 QString checkMaterialCode(const Entry& entry);
 QString searchMaterialCode(const Entry& entry);
-QString checkGlCode(const Entry& entry);
+EntryCheck checkGlCode(const LineOwner& owner);
 std::function<QString(const Entry&)> searchGlCode(const LineOwner& owner);
 EntryCheck yesNo(schema::FieldName field, const QString& refusal);
 QString checkMarkup(const Entry& entry);

@@ -373,7 +373,7 @@ std::vector<EntryField> codeFields(const LineOwner& owner)
          .field = "GLCODE",
          .caption = "&G/L Code:",
          .keys = {.upperCase = true},
-         .check = line::checkGlCode,
+         .check = line::checkGlCode(owner),
          .search = line::searchGlCode(owner)},
         {.name = "txtASSET",
          .field = "ASSET",

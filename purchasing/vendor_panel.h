@@ -12,16 +12,16 @@ std::optional<QString> editVendorPanel(const Session& session, const QString& VE
 // What the panel's fields hold, by the names of the table's fields.
 struct VendorPanel
 {
-    QString VENNO;
-    QString Name;
-    QString ADDRESS1;
-    QString ADDRESS2;
-    QString CITY;
-    QString State;
-    QString ZIP;
-    QString PLUS4;
-    QString PHONE;
-    QString FAX;
+    QString VENNO = {};
+    QString Name = {};
+    QString ADDRESS1 = {};
+    QString ADDRESS2 = {};
+    QString CITY = {};
+    QString State = {};
+    QString ZIP = {};
+    QString PLUS4 = {};
+    QString PHONE = {};
+    QString FAX = {};
 };
 std::optional<VendorPanel> vendorPanelOf(const Session& session, const QString& VENNO);
 // Writes it: a new vendor, or the one of the former number. False after a box.
