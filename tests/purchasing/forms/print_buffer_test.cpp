@@ -1,0 +1,99 @@
+// Rows of printed descriptions and subtotals.
+#include "purchasing/forms/print_buffer.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/printing.h"
+#include "tests/support/table_rows.h"
+
+namespace {
+
+TEST(DescriptionRows, ADescriptionIsPartedAtItsLineEndsAndCutToTheColumn)
+{
+    const QString word(45, 'x');
+    const struct
+    {
+        const char* what;
+        QString description;
+        int width;
+        QStringList rows;
+    } cases[] = {
+        {"nothing", "", 20, {""}},
+        {"three lines", "one\r\n  two\r\nthree", 20, {"one", "two", "three"}},
+        {"a blank line within stays, those at the end go",
+         "a\r\n\r\nb\r\n\r\n",
+         20,
+         {"a", "", "b"}},
+        {"exactly the width", "1234567890", 10, {"1234567890"}},
+        {"a blank behind the width", "1234567890 abc", 10, {"1234567890", "abc"}},
+        {"at the last blank", "bolt and nut", 10, {"bolt and", "nut"}},
+        {"without a blank in the last thirty", "a " + word, 40, {"a " + word.left(38), "xxxxxxx"}},
+        {"more than once", "aa bb cc dd ee", 5, {"aa bb", "cc dd", "ee"}},
+        {"no longer than the table's column",
+         QString(130, 'y'),
+         400,
+         {QString(100, 'y'), QString(30, 'y')}},
+    };
+    for (const auto& one : cases)
+        EXPECT_EQ(descriptionRows(one.description, one.width), one.rows) << one.what;
+}
+
+TEST(PrintBuffer, TheSumsOfTheCostCodesAreTheSumOfTheLinesAndStandInOrder)
+{
+    PrintBuffer buffer;
+    double all = 0;
+    for (int i = 0; i < 300; ++i) {
+        const double amount = (i % 7) * 0.1 + 0.01;
+        buffer.addToSubtotal(QString("%1-%2").arg(i % 2 ? "ab" : "AB").arg(i % 3), amount);
+        all += amount;
+    }
+    buffer.addToSubtotal("", 1000);
+    buffer.addSubtotalRows(30);
+    QStringList texts;
+    double sum = 0;
+    for (const FormRow& row : buffer.rows()) {
+        EXPECT_EQ(row.text.size(), 30);
+        texts.append(row.text.left(10).trimmed());
+        if (!row.text.startsWith("Total"))
+            sum += row.text.right(14).trimmed().remove(',').toDouble();
+    }
+    EXPECT_EQ(texts, (QStringList{"", "AB-0", "ab-1", "AB-2", "Total"}));
+    EXPECT_NEAR(sum, all + 1000, 1e-9);
+    EXPECT_EQ(buffer.rows().back().text.right(14).trimmed().remove(','),
+              QString::number(sum, 'f', 2));
+}
+
+TEST(PrintBuffer, WhatIsTooWideForOneRowTakesTwo)
+{
+    PrintBuffer buffer;
+    buffer.addToSubtotal("4711-100-2000-10", 12.5);
+    buffer.addSubtotalRows(18);
+    ASSERT_EQ(buffer.rows().size(), 3U);
+    EXPECT_EQ(buffer.rows()[0].text, "4711-100-2000-10");
+    EXPECT_EQ(buffer.rows()[1].text, QString("12.50").rightJustified(18));
+}
+
+TEST(PrintBuffer, TheUsersTablesHoldTheLastDocumentAlone)
+{
+    const TestInstallation site;
+    Session session;
+    session.UserSettingsPath = site.userFolder();
+    PrintBuffer before;
+    before.add({.text = "of another document"});
+    before.addToSubtotal("old", 1);
+    before.store(session);
+
+    PrintBuffer buffer;
+    buffer.addDescribed({.item = 4, .quantity = 2, .unitPrice = 1.5, .amount = 3, .costCodes = "A"},
+                        "first\r\nsecond", 20);
+    buffer.add({.isSmall = true, .text = "Notice:"});
+    buffer.addToSubtotal("A", 3);
+    buffer.store(session);
+    EXPECT_EQ(rowsOf(site, "ZORUSER.mdb", "VEXPRINTBUFFER",
+                     {"ITEMNO", "QTY", "TOPTEXT", "TEXTOUT", "AMOUNT", "CCSTRING"}),
+              (QStringList{"4|2||first|3|A", "~|~||second|~|", "~|~|SF|Notice:|~|"}));
+    EXPECT_EQ(rowsOf(site, "ZORUSER.mdb", "VEXCCSTLBUF", {"CCSTRING", "AMOUNT"}),
+              QStringList("A|3"));
+}
+
+}  // namespace
