@@ -21,6 +21,7 @@
 #include "purchasing/code_lists.h"
 #include "purchasing/document_list.h"
 #include "purchasing/document_texts.h"
+#include "purchasing/forms/addendum_texts.h"
 #include "purchasing/terms_codes.h"
 #include "screens/browse/browse_window.h"
 #include "screens/job_sites.h"
@@ -98,6 +99,7 @@ constexpr ScreenFactory screens[] = {
     {"frmVEXMC01", browse<frmVEXMC01>},
     {"frmVEXMFG01", browse<frmVEXMFG01>},
     {"frmVEXPO01", browse<frmVEXPO01>},
+    {"frmVEXPON01", browse<frmVEXPON01>},
     {"frmVEXREFRESHPN", refreshPartNumbersList},
     {"frmVEXREQ01", browse<frmVEXREQ01>},
     {"frmVEXRT01", browse<frmVEXRT01>},
