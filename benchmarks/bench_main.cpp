@@ -14,6 +14,7 @@ void registerBrowseBenchmarks();
 void registerWorkbookBenchmarks();
 void registerCostBenchmarks();
 void registerLedgerBenchmarks();
+void registerFormBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 // Windows drawn in memory say of each that they are.
@@ -46,5 +47,6 @@ int main(int argc, char** argv)
     registerWorkbookBenchmarks();
     registerCostBenchmarks();
     registerLedgerBenchmarks();
+    registerFormBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }

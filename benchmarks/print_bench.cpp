@@ -1,9 +1,6 @@
 // A table print of 50,000 rows with 12 columns: how long a page takes until it can be looked at,
 // and until it is in a PDF file, against the same pages drawn by a bare painter into a PDF file.
-#include <QFile>
-#include <QPainter>
-#include <QPdfWriter>
-
+#include "benchmarks/bare_pages.h"
 #include "benchmarks/bench_report.h"
 #include "benchmarks/bench_site.h"
 #include "core/storage/workspace.h"
@@ -82,45 +79,6 @@ ReportRun& printedReport()
     return run;
 }
 
-// What a bare painter is given, ready at hand.
-struct BareText
-{
-    QPointF baseline;
-    QString text;
-    int font;
-};
-struct BarePage
-{
-    std::vector<QRectF> boxes;
-    std::vector<BareText> texts;
-};
-
-std::vector<BarePage> barePages(const PageDocument& document, std::vector<QFont>& fonts)
-{
-    std::vector<BarePage> pages;
-    std::vector<PageFont> known;
-    for (int number = 1; number <= document.pageCount(); ++number) {
-        BarePage& page = pages.emplace_back();
-        const Page& source = document.page(number);
-        for (const PageOperation& operation : source.operations) {
-            if (operation.kind == PageOperation::Kind::Rectangle) {
-                page.boxes.emplace_back(operation.x, operation.y, operation.width,
-                                        operation.height);
-            } else if (operation.kind == PageOperation::Kind::Text) {
-                const PageFont& font = document.font(operation.style);
-                const auto place = std::find(known.begin(), known.end(), font) - known.begin();
-                if (place == static_cast<qsizetype>(known.size())) {
-                    known.push_back(font);
-                    fonts.push_back(paintingFont(font));
-                }
-                page.texts.push_back({QPointF(operation.x, operation.y + ascentOf(font)),
-                                      source.textOf(operation), static_cast<int>(place)});
-            }
-        }
-    }
-    return pages;
-}
-
 void printOurs(benchmark::State& state)
 {
     ReportRun& run = printedReport();
@@ -143,32 +101,11 @@ void pdfOurs(benchmark::State& state)
 
 void pdfBase(benchmark::State& state)
 {
-    const PageDocument& document = printedReport().pages;
-    std::vector<QFont> fonts;
-    const std::vector<BarePage> pages = barePages(document, fonts);
-    for (auto _ : state) {
-        QFile file(printSession().JobSitePath + "/bare.pdf");
-        if (!file.open(QIODevice::WriteOnly))
+    const BarePages pages(printedReport().pages);
+    for (auto _ : state)
+        if (!pages.writePdf(printSession().JobSitePath + "/bare.pdf", QPageLayout::Landscape))
             state.SkipWithError("not written");
-        QPdfWriter writer(&file);
-        writer.setResolution(twipsPerInch);
-        writer.setPageLayout(QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Landscape, {}));
-        QPainter painter(&writer);
-        bool isFirst = true;
-        for (const BarePage& page : pages) {
-            if (!std::exchange(isFirst, false))
-                writer.newPage();
-            painter.setPen(QPen(Qt::black, 10));
-            painter.setBrush(Qt::white);
-            for (const QRectF& box : page.boxes)
-                painter.drawRect(box);
-            for (const BareText& text : page.texts) {
-                painter.setFont(fonts[static_cast<size_t>(text.font)]);
-                painter.drawText(text.baseline, text.text);
-            }
-        }
-    }
-    state.counters["items"] = static_cast<double>(pages.size());
+    state.counters["items"] = pages.count();
 }
 
 }  // namespace
