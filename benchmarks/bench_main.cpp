@@ -15,6 +15,7 @@ void registerWorkbookBenchmarks();
 void registerCostBenchmarks();
 void registerLedgerBenchmarks();
 void registerFormBenchmarks();
+void registerItemBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 // Windows drawn in memory say of each that they are.
@@ -48,5 +49,6 @@ int main(int argc, char** argv)
     registerCostBenchmarks();
     registerLedgerBenchmarks();
     registerFormBenchmarks();
+    registerItemBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }

@@ -90,6 +90,17 @@ const QString& benchLinesFile()
     return path;
 }
 
+storage::Database benchFile(storage::Workspace& workspace, const QString& path,
+                            std::initializer_list<const schema::Table*> tables)
+{
+    const storage::Database file = workspace.CreateDatabase(path);
+    for (const schema::Table* table : tables) {
+        storage::TableDef definition = storage::CreateTableDef(storage::definitionOf(*table));
+        file.TableDefs().Append(definition);
+    }
+    return file;
+}
+
 QString benchScratchFolder()
 {
     static const QTemporaryDir folder;

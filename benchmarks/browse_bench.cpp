@@ -20,17 +20,6 @@ const BenchGoal keyGoal{.ratio = 1.0, .unit = "ms", .perSecond = 1e-3, .bound = 
 const BenchGoal lengthGoal{.ratio = 1.5, .unit = "ms", .perSecond = 1e-3};
 const BenchGoal openGoal{.ratio = 1.0, .unit = "ms", .perSecond = 1e-3, .bound = 60};
 
-storage::Database makeFile(storage::Workspace& wks, const QString& path,
-                           std::initializer_list<const schema::Table*> tables)
-{
-    const storage::Database file = wks.CreateDatabase(path);
-    for (const schema::Table* table : tables) {
-        storage::TableDef definition = storage::CreateTableDef(storage::definitionOf(*table));
-        file.TableDefs().Append(definition);
-    }
-    return file;
-}
-
 // Company 2 has the long list, company 1 the short one.
 Session makeSite()
 {
@@ -39,9 +28,9 @@ Session makeSite()
     session.SiteTag = 1;
     storage::Workspace wks = storage::CreateWorkspace("wksVEX");
     const QString folder = session.JobSitePath + '/';
-    const storage::Database main = makeFile(wks, folder + "MAIN.mdb", {&schema::COLIST});
-    const storage::Database user = makeFile(wks, folder + "ZORUSER.mdb", {&schema::VEXSETTINGS});
-    const storage::Database lists = makeFile(wks, folder + "ZORVEX.mdb", {&schema::GLCODES});
+    const storage::Database main = benchFile(wks, folder + "MAIN.mdb", {&schema::COLIST});
+    const storage::Database user = benchFile(wks, folder + "ZORUSER.mdb", {&schema::VEXSETTINGS});
+    const storage::Database lists = benchFile(wks, folder + "ZORVEX.mdb", {&schema::GLCODES});
     wks.BeginTrans();
     storage::Recordset companies = main.OpenRecordset("COLIST");
     for (const int company : {1, 2}) {
