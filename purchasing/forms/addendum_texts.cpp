@@ -9,7 +9,6 @@
 #include "screens/data/data_window.h"
 #include "screens/desktop.h"
 #include "screens/report/report_window.h"
-#include "screens/search/order_searches.h"
 
 using Kind = EntryField::Kind;
 
@@ -90,8 +89,6 @@ BrowseSpec frmVEXPON01()
                      .width = 900,
                      .shows = defaultMark}},
         .detail = {.tagField = "PONTAG", .tagIndex = "PONTAG", .open = openText, .hasView = true},
-        .search =
-            [](const BrowseSession& list) { return zorSearchAddendum(list.session().JobSitePath); },
         .print = {.run = [](BrowseSession& list) { openPrint(list.session(), list.currentTag()); }},
         .commands = {{.name = "cmdSetDefault",
                       .caption = "Set De&fault",

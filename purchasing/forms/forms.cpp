@@ -24,7 +24,7 @@ QString withMark(const QString& number, const QString& mark)
 }
 
 // ---- columns
-FormColumn itemColumn(const QString& heading = "ITEM", int width = 480)
+FormColumn itemColumn(const QString& heading = "ITEM", int width = 530)
 {
     return {heading, width, TextAlignment::Centre,
             [](const FormRow& row) { return dnFormat(row.item, "###"); }};
@@ -298,7 +298,7 @@ std::vector<FormColumn> columnsOf(OrderForm form, const FormSettings& settings)
             break;
     }
     std::vector<FormColumn> columns = standardColumns(settings);
-    columns.push_back({"REV.", 480, TextAlignment::Centre,
+    columns.push_back({"REV.", 520, TextAlignment::Centre,
                        [](const FormRow& row) { return dnFormat(row.revision, "##"); }});
     return columns;
 }

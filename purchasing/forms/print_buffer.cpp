@@ -96,20 +96,24 @@ void PrintBuffer::addToSubtotal(const QString& costCodes, double amount)
 
 void PrintBuffer::addSubtotalRows(int width)
 {
+    std::vector<std::pair<QString, QString>> sums;
     double total = 0;
-    const auto addSum = [&](const QString& label, double sum) {
-        const QString shown = dnFormat(sum, amountMask);
-        if (label.size() + shown.size() >= width)
-            m_rows.push_back({.text = label});
-        const QString before = label.size() + shown.size() < width ? label : QString();
-        m_rows.push_back(
-            {.text = before + shown.rightJustified(width - static_cast<int>(before.size()))});
-    };
     for (const auto& [costCodes, sum] : m_subtotals) {
-        addSum(costCodes, sum);
+        sums.emplace_back(costCodes, dnFormat(sum, amountMask));
         total = roundedToCents(total + sum);
     }
-    addSum("Total", total);
+    sums.emplace_back("Total", dnFormat(total, amountMask));
+    // In a narrow column each sum stands below its string.
+    const bool isNarrow = std::any_of(sums.begin(), sums.end(), [width](const auto& one) {
+        return one.first.size() + one.second.size() >= width;
+    });
+    for (const auto& [label, sum] : sums) {
+        if (isNarrow)
+            m_rows.push_back({.text = label});
+        const QString before = isNarrow ? QString() : label;
+        m_rows.push_back(
+            {.text = before + sum.rightJustified(width - static_cast<int>(before.size()))});
+    }
 }
 
 void PrintBuffer::store(const Session& session) const

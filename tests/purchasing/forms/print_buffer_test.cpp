@@ -63,14 +63,15 @@ TEST(PrintBuffer, TheSumsOfTheCostCodesAreTheSumOfTheLinesAndStandInOrder)
               QString::number(sum, 'f', 2));
 }
 
-TEST(PrintBuffer, WhatIsTooWideForOneRowTakesTwo)
+TEST(PrintBuffer, WhereOneSumIsTooWideForARowEachTakesTwo)
 {
     PrintBuffer buffer;
     buffer.addToSubtotal("4711-100-2000-10", 12.5);
     buffer.addSubtotalRows(18);
-    ASSERT_EQ(buffer.rows().size(), 3U);
+    ASSERT_EQ(buffer.rows().size(), 4U);
     EXPECT_EQ(buffer.rows()[0].text, "4711-100-2000-10");
     EXPECT_EQ(buffer.rows()[1].text, QString("12.50").rightJustified(18));
+    EXPECT_EQ(buffer.rows()[2].text, "Total");
 }
 
 TEST(PrintBuffer, TheUsersTablesHoldTheLastDocumentAlone)
