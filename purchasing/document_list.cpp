@@ -1,9 +1,10 @@
 #include "purchasing/document_list.h"
 
+#include <QSet>
+
 #include "core/locators.h"
 #include "core/site_settings.h"
 #include "core/storage/storage_error.h"
-#include "core/tag_list.h"
 #include "core/text.h"
 #include "core/user_settings.h"
 #include "multiuser/users.h"
@@ -78,8 +79,16 @@ struct ListState
     qint32 REQTAG = 0;  // the orders of that requisition only
     DocumentFilter filter = {};
     bool usesColors = false;
+    QSet<qint32> marked = {};  // looked up once, not for each row
 };
 using State = std::shared_ptr<ListState>;
+
+void readMarks(const BrowseSession& list, ListState& state)
+{
+    state.marked.clear();
+    for (const qint32 tag : markedDocuments(list.session(), kindOf(list)))
+        state.marked.insert(tag);
+}
 
 // ---- the filter
 void browse(BrowseSession& list, const DocumentFilter& filter)
@@ -128,6 +137,7 @@ void openList(BrowseSession& list, ListState& state)
     UserSettings settings(list.session());
     const RememberedFilter& names = rememberedFilter(kindOf(list));
     state.usesColors = settings["USESTATUSCOLORS"].toBool();
+    readMarks(list, state);
     if (state.REQTAG != 0)
         return list.browseBy("POREQ", {{"REQTAG", state.REQTAG}});
     const int option = settings[names.option].toInt();
@@ -189,21 +199,16 @@ RowTone toneOf(const QString& status)
     return status == "Open" ? RowTone::Plain : RowTone::Good;
 }
 
-QString markText(const BrowseSession& list, storage::Recordset& rows)
-{
-    const DocumentKind& kind = kindOf(list);
-    storage::Recordset& marks = list.beside("TAGLIST");
-    return zorTagListCheck(marks, documentMarks, 0, kind.code, intOf(rows[kind.tag])) ? "T" : "";
-}
-
 QString vendorText(const BrowseSession& list, storage::Recordset& rows, schema::FieldName field)
 {
     const int tag = intOf(rows["VENTAG"]);
     if (tag == 0)
         return field == schema::FieldName("Name") ? QString(" <none>") : QString();
     storage::Recordset& vendors = list.beside("VENDORS");
-    vendors.Index("VENTAG");
-    return vendors.Seek("=", tag) ? trimmedTextOf(vendors[field]) : QString("?????");
+    // Two columns ask for one vendor, and often rows one after the other.
+    const bool isThere =
+        !vendors.BOF() && !vendors.EOF() && !vendors.NoMatch() && intOf(vendors["VENTAG"]) == tag;
+    return isThere || vendors.Seek("=", tag) ? trimmedTextOf(vendors[field]) : QString("?????");
 }
 
 BrowseColumn vendorColumn(schema::FieldName field, const QString& heading, int length, int width)
@@ -217,14 +222,18 @@ BrowseColumn vendorColumn(schema::FieldName field, const QString& heading, int l
             }};
 }
 
-BrowseColumn markColumn()
+BrowseColumn markColumn(const State& state)
 {
     return {.field = "VENTAG",
             .length = 1,
             .heading = "Tag",
             .width = 450,
             .alignment = Qt::AlignHCenter,
-            .shows = markText,
+            .shows =
+                [state](const BrowseSession& list, storage::Recordset& rows) {
+                    return state->marked.contains(intOf(rows[kindOf(list).tag])) ? QString("T")
+                                                                                 : QString();
+                },
             .isPrinted = false};
 }
 
@@ -248,9 +257,9 @@ BrowseColumn number(schema::FieldName field, int length, const QString& heading,
             .alignment = Qt::AlignRight};
 }
 
-std::vector<BrowseColumn> requisitionColumns()
+std::vector<BrowseColumn> requisitionColumns(const State& state)
 {
-    return {markColumn(),
+    return {markColumn(state),
             {.field = "REQNO",
              .length = 5,
              .heading = "Req. #",
@@ -276,9 +285,9 @@ std::vector<BrowseColumn> requisitionColumns()
              }}};
 }
 
-std::vector<BrowseColumn> orderColumns()
+std::vector<BrowseColumn> orderColumns(const State& state)
 {
-    return {markColumn(),
+    return {markColumn(state),
             statusColumn(),
             number("REVNO", 2, "Rev", 450, "#0"),
             {.field = "PONO", .length = 16, .heading = "PO No.", .width = 1700},
@@ -375,11 +384,12 @@ void changeStatus(BrowseSession& list, ListState& state)
     kind.isOrder() ? setOrderStatus(list.session(), tag, choice->status)
                    : setRequisitionStatus(list.session(), tag, choice->status);
     state.usesColors = choice->usesColors;
+    readMarks(list, state);
     UserSettings(list.session()).save("USESTATUSCOLORS", choice->usesColors);
     list.list().rebuild();
 }
 
-void toggleDocumentMark(BrowseSession& list)
+void toggleDocumentMark(BrowseSession& list, ListState& state)
 {
     const DocumentKind& kind = kindOf(list);
     if (!list.list().goToCurrent())
@@ -388,12 +398,14 @@ void toggleDocumentMark(BrowseSession& list)
     const QString number =
         kind.isOrder() ? trimmedTextOf(rows["PONO"]) : shownRequisitionNumber(intOf(rows["REQNO"]));
     toggleMark(list.session(), kind, intOf(rows[kind.tag]), number);
+    readMarks(list, state);
     list.list().repaint();
 }
 
-void clearDocumentMarks(BrowseSession& list)
+void clearDocumentMarks(BrowseSession& list, ListState& state)
 {
     clearMarks(list.session(), kindOf(list));
+    state.marked.clear();
     list.list().rebuild();
 }
 
@@ -514,7 +526,7 @@ void clone(BrowseSession& list, ListState& state)
         showDocument(list, state, cloneOrder(list.session(), tag, *number));
 }
 
-void postDownload(BrowseSession& list)
+void postDownload(BrowseSession& list, ListState& state)
 {
     if (markedDocuments(list.session(), purchaseOrders).empty())
         return showCritical("Cannot Post", "Nothing to Do (There are No Tagged Items).");
@@ -534,6 +546,7 @@ void postDownload(BrowseSession& list)
                         "This Purchase Order has Already Been Assigned\n"
                         "a Download Number. Ok to Change Existing Download Number?");
     });
+    readMarks(list, state);
     list.list().rebuild();
 }
 
@@ -570,17 +583,17 @@ std::vector<BrowseCommand> commandsOf(const DocumentKind& kind, const State& sta
                        .needsRecord = true});
     all.push_back({.name = "cmdTAGEM",
                    .caption = "Ta&g",
-                   .run = toggleDocumentMark,
+                   .run = with(toggleDocumentMark),
                    .key = Qt::Key_G,
                    .needsRecord = true});
     all.push_back({.name = "cmdClearTags",
                    .caption = "&Clear Tags",
-                   .run = clearDocumentMarks,
+                   .run = with(clearDocumentMarks),
                    .key = Qt::Key_C});
     if (kind.isOrder())
         all.push_back({.name = "cmdPostDLNO",
                        .caption = "Post D/&L #",
-                       .run = postDownload,
+                       .run = with(postDownload),
                        .key = Qt::Key_L});
     all.push_back(
         {.name = "cmdFilter", .caption = "&Filter", .run = with(filter), .key = Qt::Key_F});
@@ -643,8 +656,8 @@ BrowseSpec documentList(const DocumentKind& kind, qint32 REQTAG)
         .caption = kind.isOrder() ? "Purchase Orders" : "Material Requisitions",
         .table = kind.table,
         .index = kind.byNumber,
-        .columns = kind.isOrder() ? orderColumns() : requisitionColumns(),
-        .besides = {{"ZORVEX.mdb", "VENDORS", "VENTAG"}, {"ZORUSER.mdb", "TAGLIST"}},
+        .columns = kind.isOrder() ? orderColumns(state) : requisitionColumns(state),
+        .besides = {{"ZORVEX.mdb", "VENDORS", "VENTAG"}},
         .editRight = kind.isOrder() ? "PO01" : "REQ02",
         .detail = {.tagField = kind.tagName(),
                    .tagIndex = kind.byTag,
@@ -665,6 +678,7 @@ BrowseSpec documentList(const DocumentKind& kind, qint32 REQTAG)
         .fillsDesktop = true,
         .inFront =
             [state](BrowseSession& list) {
+                readMarks(list, *state);
                 if (state->filter.option != Option::None && list.list().isEmpty())
                     applyFilter(list, *state);
             },

@@ -1,5 +1,7 @@
 #include "purchasing/line_list.h"
 
+#include <QSet>
+
 #include "core/locators.h"
 #include "core/tag_list.h"
 #include "core/text.h"
@@ -22,18 +24,14 @@ struct ListState
 {
     LineOwner owner;
     std::shared_ptr<bool> carries = std::make_shared<bool>(false);
+    QSet<qint32> marked = {};  // looked up once, not for each row
 };
 using State = std::shared_ptr<ListState>;
-using Run = void (*)(BrowseSession&, const ListState&);
+using Run = void (*)(BrowseSession&, ListState&);
 
 const DocumentKind& kindOf(const ListState& state)
 {
     return *state.owner.kind;
-}
-
-storage::Recordset& marksBeside(const BrowseSession& list)
-{
-    return list.beside("TAGLIST");
 }
 
 OpenTable openMarks(const BrowseSession& list)
@@ -42,10 +40,13 @@ OpenTable openMarks(const BrowseSession& list)
 }
 
 // ---- what is shown
-bool isMarkedLine(const BrowseSession& list, const ListState& state, const storage::Recordset& rows)
+void readMarks(const BrowseSession& list, ListState& state)
 {
-    return zorTagListCheck(marksBeside(list), kindOf(state).code, state.owner.docTag, lineMarks,
-                           intOf(rows["RQITAG"]));
+    state.marked.clear();
+    OpenTable marks = openMarks(list);
+    for (const qint32 tag :
+         zorTagListItems(marks.rows, kindOf(state).code, state.owner.docTag, lineMarks))
+        state.marked.insert(tag);
 }
 
 BrowseColumn text(schema::FieldName field, int length, const QString& heading, int width)
@@ -83,8 +84,8 @@ std::vector<BrowseColumn> columns(const State& state)
          .width = 450,
          .alignment = Qt::AlignHCenter,
          .shows =
-             [state](const BrowseSession& list, storage::Recordset& rows) {
-                 return isMarkedLine(list, *state, rows) ? QString("T") : QString();
+             [state](const BrowseSession&, storage::Recordset& rows) {
+                 return state->marked.contains(intOf(rows["RQITAG"])) ? QString("T") : QString();
              },
          .isPrinted = false},
         number(kind.itemNo, 4, "Item", 600, "###0"),
@@ -138,7 +139,7 @@ bool mayMark(const ListState& state, const storage::Recordset& rows)
     return kindOf(state).isOrder() || intOf(rows["POTAG"]) == 0;
 }
 
-void toggleLineMark(BrowseSession& list, const ListState& state)
+void toggleLineMark(BrowseSession& list, ListState& state)
 {
     const storage::Recordset& rows = list.list().rows();
     const qint32 tag = intOf(rows["RQITAG"]);
@@ -150,11 +151,12 @@ void toggleLineMark(BrowseSession& list, const ListState& state)
         zorTagListSet(marks.rows, kind.code, state.owner.docTag, lineMarks, tag);
     else
         return refuseMark();
+    readMarks(list, state);
     list.list().repaint();
     list.list().nextRow();
 }
 
-void markAll(BrowseSession& list, const ListState& state)
+void markAll(BrowseSession& list, ListState& state)
 {
     const DocumentKind& kind = kindOf(state);
     OpenTable marks = openMarks(list);
@@ -165,13 +167,15 @@ void markAll(BrowseSession& list, const ListState& state)
                           intOf(lines.rows["RQITAG"]));
         return true;
     });
+    readMarks(list, state);
     list.list().rebuild();
 }
 
-void clearLineMarks(BrowseSession& list, const ListState& state)
+void clearLineMarks(BrowseSession& list, ListState& state)
 {
     OpenTable marks = openMarks(list);
     zorTagListClear(marks.rows, kindOf(state).code, state.owner.docTag, lineMarks);
+    state.marked.clear();
     list.list().rebuild();
 }
 
@@ -182,7 +186,7 @@ bool hasMarks(const BrowseSession& list, const ListState& state)
 }
 
 // ---- the order of lines
-void insert(BrowseSession& list, const ListState& state)
+void insert(BrowseSession& list, ListState& state)
 {
     const qint32 tag =
         insertLine(list.session(), kindOf(state), state.owner.docTag, list.currentTag());
@@ -190,7 +194,7 @@ void insert(BrowseSession& list, const ListState& state)
     list.showTag(tag);
 }
 
-void renumber(BrowseSession& list, const ListState& state)
+void renumber(BrowseSession& list, ListState& state)
 {
     const qint32 tag = list.currentTag();
     renumberLines(list.session(), kindOf(state), state.owner.docTag);
@@ -198,12 +202,12 @@ void renumber(BrowseSession& list, const ListState& state)
     list.showTag(tag);
 }
 
-void cut(BrowseSession& list, const ListState&)
+void cut(BrowseSession& list, ListState&)
 {
     copyToClipboard(list.session(), list.currentTag(), true);
 }
 
-void copy(BrowseSession& list, const ListState&)
+void copy(BrowseSession& list, ListState&)
 {
     copyToClipboard(list.session(), list.currentTag(), false);
 }
@@ -217,7 +221,7 @@ bool agreesToPasteOver()
                                      .enterTakes = Answer::No}) == Answer::Yes;
 }
 
-void paste(BrowseSession& list, const ListState& state)
+void paste(BrowseSession& list, ListState& state)
 {
     const qint32 at = list.currentTag();
     if (!isClipboardEmpty(list.session()) && hasContent(list.session(), at) && !agreesToPasteOver())
@@ -230,7 +234,7 @@ void paste(BrowseSession& list, const ListState& state)
 }
 
 // ---- a requisition's lines to orders and to other requisitions
-void postToNewOrder(BrowseSession& list, const ListState& state)
+void postToNewOrder(BrowseSession& list, ListState& state)
 {
     const Session& session = list.session();
     const qint32 REQTAG = state.owner.docTag;
@@ -253,6 +257,7 @@ void postToNewOrder(BrowseSession& list, const ListState& state)
                               .PONO = proposal.PONO,
                               .usesCounter = proposal.source == NumberSource::Counter,
                               .done = {}});
+    readMarks(list, state);
     list.list().rebuild();
     if (created)
         showInformation("PO Created", "PO Number: " + proposal.PONO + " with " +
@@ -260,7 +265,7 @@ void postToNewOrder(BrowseSession& list, const ListState& state)
                                           " Items Has Been Created.");
 }
 
-void postToExistingOrder(BrowseSession& list, const ListState& state)
+void postToExistingOrder(BrowseSession& list, ListState& state)
 {
     const Session& session = list.session();
     if (!mayPostTagged(session, state.owner.docTag, "Cannot Add Items to an Existing PO"))
@@ -278,12 +283,13 @@ void postToExistingOrder(BrowseSession& list, const ListState& state)
     if (!number || !order)
         return;
     const int count = addTaggedToOrder(session, state.owner.docTag, *order);
+    readMarks(list, state);
     list.list().rebuild();
     showInformation("Items Added to Existing PO", "PO Number: " + *number + " has had " +
                                                       QString::number(count) + " Items added.");
 }
 
-void transfer(BrowseSession& list, const ListState& state)
+void transfer(BrowseSession& list, ListState& state)
 {
     const Session& session = list.session();
     if (!hasMarks(list, state))
@@ -308,6 +314,7 @@ void transfer(BrowseSession& list, const ListState& state)
     if (!number)
         return;
     const int count = transferMarkedLines(session, state.owner.docTag, target);
+    readMarks(list, state);
     list.list().rebuild();
     showInformation("Items Transfered",
                     "A total of " + QString::number(count) +
@@ -315,7 +322,7 @@ void transfer(BrowseSession& list, const ListState& state)
 }
 
 // ---- what is not built yet
-void notReady(BrowseSession&, const ListState&)
+void notReady(BrowseSession&, ListState&)
 {
     dnNotReady();
 }
@@ -434,7 +441,7 @@ BrowseSpec frmVEXRQI01(const Session& session, const DocumentKind& kind, const L
         .index = kind.lines,
         .parent = {.kind = BrowseParent::Kind::Given, .keys = {kind.tag}},
         .columns = columns(state),
-        .besides = {{"ZORUSER.mdb", "TAGLIST"}, {"ZORVEX.mdb", "POLIST", "POTAG"}},
+        .besides = {{"ZORVEX.mdb", "POLIST", "POTAG"}},
         .mayAdd = !of.isReadOnly,
         .mayEdit = !of.isReadOnly,
         .mayDelete = !of.isReadOnly,
@@ -447,9 +454,11 @@ BrowseSpec frmVEXRQI01(const Session& session, const DocumentKind& kind, const L
         .commands = of.isReadOnly ? commandsInView(state) : commands(state),
         .status = [state](const BrowseSession& list) { return ownerText(list, *state); },
         .tone =
-            [state](const BrowseSession& list, storage::Recordset& rows) {
-                return isMarkedLine(list, *state, rows) ? RowTone::Good : RowTone::Plain;
+            [state](const BrowseSession&, storage::Recordset& rows) {
+                return state->marked.contains(intOf(rows["RQITAG"])) ? RowTone::Good
+                                                                     : RowTone::Plain;
             },
+        .opened = [state](BrowseSession& list) { readMarks(list, *state); },
         .closing = [state, of](BrowseSession& list) { closeList(list, *state, of); },
         .fillsDesktop = true,
     };

@@ -151,7 +151,8 @@ bool chooseParts(const Session& session, OrderForm form, qint32 POTAG)
     if (dnSeek(orders.rows, "POTAG", {{"POTAG", POTAG}}).isEmpty())
         return true;
     return choosePrint(session, isBilling ? invoiceChoice : receiptChoice, POTAG,
-                       trimmedTextOf(orders.rows["PONO"]));
+                       trimmedTextOf(orders.rows["PONO"])) &&
+           (!isBilling || !markedInvoices(session).isEmpty());
 }
 
 void printOrders(ReportRun& run, OrderForm form, qint32 POTAG)
@@ -160,11 +161,17 @@ void printOrders(ReportRun& run, OrderForm form, qint32 POTAG)
     if (tags.empty())
         tags = {POTAG};
     const FormSettings settings = formSettings(run.session());
-    if (!dnReportBegin(run, "P"))
-        return;
-    for (const qint32 tag : tags)
-        if (chooseParts(run.session(), form, tag) && !printOrder(run, form, settings, tag))
+    // The user's tables hold the choice for one order; what was printed stays until there is one.
+    bool isBegun = false;
+    for (const qint32 tag : tags) {
+        if (!chooseParts(run.session(), form, tag))
+            continue;
+        if (!isBegun && !dnReportBegin(run, "P"))
+            return;
+        isBegun = true;
+        if (!printOrder(run, form, settings, tag))
             break;
+    }
     dnReportEnd(run);
 }
 

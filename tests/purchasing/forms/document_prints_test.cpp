@@ -383,4 +383,44 @@ TEST_F(DocumentPrints, DeliveriesAndInvoicesAreOfferedOnceEach)
     EXPECT_EQ(fillPrintChoice(session, invoiceChoice, orderTag), (QStringList{"A1", "A2"}));
 }
 
+TEST_F(DocumentPrints, ABillingStatusIsPrintedOfTheTickedInvoicesAndOfNoneNothing)
+{
+    addLine(1, 2, "Pipe", 10);
+    site.addRow("ZORVEX.mdb", "PAYMENTS",
+                {{"POTAG", orderTag}, {"RQITAG", 1}, {"INVNO", "A1"}, {"AMOUNT", 4.0}});
+    for (const char* command : {"cmdCancel", "cmdPrint"}) {
+        whenModalOpens([command](QDialog& dialog) { press(dialog, command); });
+        ReportRun run(frmVEXPO04(orderTag), session);
+        run.begin(5);
+        EXPECT_EQ(run.pages.pageCount(), 0) << command;
+    }
+    whenModalOpens([](QDialog& dialog) {
+        EXPECT_EQ(dialog.objectName(), "frmVEXPAY04");
+        control<QListWidget>(dialog, "lstChoices").item(0)->setCheckState(Qt::Checked);
+        press(dialog, "cmdPrint");
+    });
+    const PageDocument pages = printBy(frmVEXPO04(orderTag), 5);
+    EXPECT_TRUE(has(pages, 1, "A1") && has(pages, 1, "4.00") && has(pages, 1, "6.00"));
+}
+
+TEST_F(DocumentPrints, ThePreviewOfATextSavesItFirst)
+{
+    site.emptyTable("ZORVEX.mdb", "PONOTETEXT");
+    DataSession screen(frmVEXPON02(), session, {.mode = "A"});
+    ASSERT_TRUE(screen.open());
+    screen.entry().setText("PONTITLE", "Terms");
+    const DataCommand& preview = screen.spec().commands.front();
+    user.expect("Confirm Save Changes.", "OK to Save Changes Before Print Preview?",
+                Answer::Cancel);
+    screen.run(preview);
+    EXPECT_EQ(site.rowCount("ZORVEX.mdb", "PONOTETEXT"), 0);
+    user.expect("Confirm Save Changes.", "OK to Save Changes Before Print Preview?");
+    screen.run(preview);
+    EXPECT_EQ(site.rowCount("ZORVEX.mdb", "PONOTETEXT"), 1);
+    screen.run(preview);  // nothing has changed since
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->objectName() == "frmVEXPON03")
+            window->close();
+}
+
 }  // namespace
