@@ -418,9 +418,11 @@ TEST_F(DocumentPrints, ThePreviewOfATextSavesItFirst)
     screen.run(preview);
     EXPECT_EQ(site.rowCount("ZORVEX.mdb", "PONOTETEXT"), 1);
     screen.run(preview);  // nothing has changed since
+    int previews = 0;
     for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->objectName() == "frmVEXPON03")
-            window->close();
+        if (window->objectName() == "frmVEXPON03" && window->close())
+            ++previews;
+    EXPECT_EQ(previews, 2);
 }
 
 }  // namespace
