@@ -16,6 +16,7 @@ void registerCostBenchmarks();
 void registerLedgerBenchmarks();
 void registerFormBenchmarks();
 void registerItemBenchmarks();
+void registerPurchasingBenchmarks();
 int runContentionWorker(const QStringList& arguments);
 
 // Windows drawn in memory say of each that they are.
@@ -50,5 +51,6 @@ int main(int argc, char** argv)
     registerLedgerBenchmarks();
     registerFormBenchmarks();
     registerItemBenchmarks();
+    registerPurchasingBenchmarks();
     return runPairs(arguments.value(1)) ? 0 : 1;
 }
