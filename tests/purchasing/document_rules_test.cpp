@@ -1,6 +1,8 @@
 // The rules of requisitions and purchase orders, on their tables.
 #include <gtest/gtest.h>
 
+#include <QProcess>
+
 #include "purchasing/document_lines.h"
 #include "purchasing/document_marks.h"
 #include "purchasing/document_numbers.h"
@@ -136,6 +138,65 @@ TEST_F(DocumentRules, TaggedLinesBecomeAnOrderStepByStep)
     EXPECT_EQ(rows("INVENTORY", {"ONORDER"}), QStringList{"2"});
     EXPECT_EQ(site.rowCount("ZORUSER.mdb", "TAGLIST"), 0);
     EXPECT_EQ(proposeOrder(session, 10).PONO, "4711M0002302");
+}
+
+// Each step is whole, those before it stand, and those after it have not begun.
+TEST_F(DocumentRules, AKilledCreationLeavesWhatItsStepsHadDone)
+{
+    struct Left
+    {
+        int steps;
+        int linesOrdered;
+        int posted;
+        int orders;
+        int counter;
+        int marks;
+    };
+    const Left cases[] = {{1, 0, 0, 0, 7, 2}, {2, 1, 0, 0, 7, 2}, {3, 2, 0, 0, 7, 2},
+                          {4, 2, 1, 0, 7, 2}, {5, 2, 1, 1, 7, 2}, {6, 2, 1, 1, 42, 2},
+                          {7, 2, 1, 1, 42, 0}};
+    for (const Left& left : cases) {
+        for (const char* table : {"REQLIST", "POLIST", "RQILIST", "INVTRANS", "VEXCOUNTERS"})
+            site.emptyTable("ZORVEX.mdb", table);
+        site.emptyTable("ZORUSER.mdb", "TAGLIST");
+        add("VEXCOUNTERS", {{"REQNO", 23}, {"PONO", 7}});
+        addRequisition(3);
+        markLine(requisitions, 10, 100);
+        markLine(requisitions, 10, 102);
+        QProcess creator;
+        creator.start(ORDER_CREATOR_PROGRAM,
+                      {site.siteFolder(), site.userFolder(), "00041", QString::number(left.steps)});
+        ASSERT_TRUE(creator.waitForFinished(60'000));
+        EXPECT_EQ(creator.exitStatus(), QProcess::CrashExit);
+        EXPECT_EQ(creator.readAllStandardError().constData(), std::string());
+        int ordered = 0;
+        for (const QString& POTAG : rows("RQILIST", {"POTAG"}))
+            ordered += POTAG != "0";
+        EXPECT_EQ(ordered, left.linesOrdered) << left.steps;
+        EXPECT_EQ(site.rowCount("ZORVEX.mdb", "INVTRANS"), left.posted) << left.steps;
+        EXPECT_EQ(site.rowCount("ZORVEX.mdb", "POLIST"), left.orders) << left.steps;
+        EXPECT_EQ(rows("VEXCOUNTERS", {"PONO"}), QStringList{QString::number(left.counter)});
+        EXPECT_EQ(site.rowCount("ZORUSER.mdb", "TAGLIST"), left.marks) << left.steps;
+    }
+}
+
+// Two users who order the same line: it belongs to one order.
+TEST_F(DocumentRules, ALineThatAnotherUserHasOrderedStaysWithHisOrder)
+{
+    addRequisition(3);
+    markLine(requisitions, 10, 100);
+    markLine(requisitions, 10, 102);
+    {
+        OpenTable lines = site.open("ZORVEX.mdb", "RQILIST");
+        lines.rows.Edit();
+        lines.rows["POTAG"] = 99;
+        lines.rows.Update();
+    }
+    const auto created = createOrder(session, {.REQTAG = 10, .PONO = "X", .done = {}});
+    ASSERT_TRUE(created);
+    EXPECT_EQ(created->items, 1);
+    EXPECT_EQ(rows("RQILIST", {"POTAG"}).first(), "99");
+    EXPECT_EQ(rows("POLIST", {"AMOUNT"}), QStringList{"20"});
 }
 
 TEST_F(DocumentRules, LinesAreAddedBehindThoseOfAStandingOrder)
