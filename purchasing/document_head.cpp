@@ -83,7 +83,6 @@ public:
         }
         const storage::Recordset& rows = entry.rows();
         const Session& session = entry.session();
-        m_isStored = true;
         const QString reference =
             head::docReferenceText(session, intOf(rows["BRQWOTAG"]), intOf(rows["BRQROTAG"]));
         const auto vendor = head::vendorAt(session, intOf(rows["VENTAG"]));
@@ -154,7 +153,8 @@ public:
         const qint32 tag = intOf(rows[m_kind.tag]);
         const bool hasDetail = m_kind.isOrder() || hasLines(session, m_kind, tag) ||
                                !relatedOrders(session, tag).empty();
-        if (hasDetail && !askYesNo("Confirm Delete.", "Are You Sure? "))
+        if (hasDetail &&
+            !askYesNo("Confirm Delete.", m_kind.isOrder() ? "Are You Sure?" : "Are You Sure? "))
             return false;
         m_kind.isOrder() ? deleteOfOrder(session, tag) : deleteOfRequisition(session, tag);
         return true;
@@ -216,7 +216,6 @@ private:
     const DocumentKind& m_kind;
     JobNoFormat m_format;
     std::optional<HeadChange> m_change;
-    bool m_isStored = false;
 };
 
 // ---- fields

@@ -1,7 +1,5 @@
 #include "purchasing/line_screen.h"
 
-#include <cmath>
-
 #include "core/dates.h"
 #include "core/keyed_access.h"
 #include "core/line_amount.h"
@@ -67,7 +65,6 @@ public:
         }
         if (entry.isAdding()) {
             beginNew(entry);
-            m_partText = entry.named(line::part);
             return true;
         }
         const storage::Recordset& rows = entry.rows();
@@ -100,7 +97,6 @@ public:
 
     Step beforeWrite(Entry& entry) override
     {
-        takePresentItem(entry);
         const auto item = line::itemOf(entry);
         const qint32 ISNTAG = item ? item->ISNTAG : 0;
         if (m_owner.kind->isOrder() && !postToLedger(entry, ISNTAG))
@@ -178,18 +174,6 @@ private:
         const auto item = line::itemAt(session, ISNTAG);
         entry.setNamed(line::branch, branch ? branch->code : QString());
         entry.setNamed(line::part, item ? item->PARTNO : QString());
-    }
-
-    // Another screen may have named the item in the stored line while the part here stayed blank.
-    static void takePresentItem(Entry& entry)
-    {
-        if (entry.isAdding() || dnNotBlank(entry.named(line::part)) || !entry.goToRecord())
-            return;
-        const qint32 tag = intOf(entry.rows()["ISNTAG"]);
-        const int partField = entry.indexOf(QString(line::part));
-        const bool wasTyped = entry.isChanged() && partField >= 0;
-        if (tag != 0 && !wasTyped)
-            showItem(entry, intOf(entry.rows()["ILCTAG"]), tag);
     }
 
     bool postToLedger(const Entry& entry, qint32 ISNTAG)
@@ -270,7 +254,6 @@ private:
     std::shared_ptr<bool> m_carries;
     double m_others = 0;
     qint32 m_item = 0;  // that the stored line names
-    QString m_partText;
     bool m_hasDrifted = false;
     bool m_awaitsItem = false;
 };
