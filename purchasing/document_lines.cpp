@@ -160,6 +160,7 @@ qint32 insertLine(const Session& session, const DocumentKind& kind, qint32 docTa
         const storage::Recordset& rows = open.rows;
         WriteBatch batch(work.workspace);
         int line = 0;
+        const DocumentKind& other = kind.isOrder() ? requisitions : purchaseOrders;
         const auto add = [&](const std::function<void()>& fill) {
             batch.begin();
             work.rows.AddNew();
@@ -171,8 +172,9 @@ qint32 insertLine(const Session& session, const DocumentKind& kind, qint32 docTa
         const auto addBlank = [&] {
             add([&] {
                 work.rows["RQITAG"] = tag;
-                for (const schema::FieldName owner : {schema::FieldName("REQTAG"), {"POTAG"}})
-                    work.rows[owner] = owner == kind.tag ? docTag : 0;
+                work.rows[kind.tag] = docTag;
+                for (const schema::FieldName field : {other.tag, other.itemNo, other.lineNo})
+                    work.rows[field] = 0;
             });
         };
         bool isAdded = false;

@@ -54,9 +54,9 @@ void addRow(storage::Recordset& rows, std::span<const schema::FieldName> fields,
 void cloneLines(const Session& session, qint32 POTAG, qint32 newPOTAG)
 {
     constexpr schema::FieldName fields[] = {
-        "REQTAG",    "REQITEMNO", "POITEMNO",  "ISNTAG",     "QTY",       "UNIT",      "DOCTYPE",
-        "VINVNO",    "Desc",      "UNITPRICE", "UNITFACT",   "AMOUNT",    "COSTCODEA", "COSTCODEB",
-        "COSTCODEC", "MCODE",     "GLCODE",    "ADJUSTMENT", "REQLINENO", "POLINENO"};
+        "REQTAG",    "REQITEMNO", "POITEMNO",  "ISNTAG",    "QTY",        "UNIT",      "DOCTYPE",
+        "VINVNO",    "Desc",      "SHORTDESC", "UNITPRICE", "UNITFACT",   "AMOUNT",    "COSTCODEA",
+        "COSTCODEB", "COSTCODEC", "MCODE",     "GLCODE",    "ADJUSTMENT", "REQLINENO", "POLINENO"};
     OpenTable open = openTable(session, "ZORVEX.mdb", "RQILIST");
     storage::Recordset& rows = open.rows;
     std::vector<std::vector<storage::Value>> lines;

@@ -91,7 +91,11 @@ bool saveRequisitionCounter(const QString& jobSitePath, qint32 used)
 
 bool saveOrderCounter(const QString& jobSitePath, const QString& used)
 {
-    return saveCounter(jobSitePath, "PONO", used.trimmed().toInt());
+    bool isNumber = false;
+    const qint32 number = used.trimmed().toInt(&isNumber);
+    // A number of another make, typed over the one offered, has none after it.
+    return isNumber ? saveCounter(jobSitePath, "PONO", number)
+                    : counterOf(jobSitePath, "PONO") != 0;
 }
 
 int nextOrderSuffix(const QString& jobSitePath, qint32 REQTAG)

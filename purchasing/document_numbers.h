@@ -28,7 +28,8 @@ QString shownRequisitionNumber(qint32 REQNO);
 qint32 nextRequisitionNumber(const QString& jobSitePath);
 QString nextOrderNumber(const QString& jobSitePath);
 
-// The number after the one that was used becomes the next. False where the table is empty.
+// The number after the one that was used becomes the next; a text that is no number leaves the
+// counter as it is. False where the table is empty.
 bool saveRequisitionCounter(const QString& jobSitePath, qint32 used);
 bool saveOrderCounter(const QString& jobSitePath, const QString& used);
 

@@ -173,18 +173,17 @@ void partLeft(Entry& entry)
         takeItem(entry);
 }
 
-EntryCheck checkQuantity(const LineOwner& owner)
+// Asked in its requisition, too: an ordered line is one and the same there.
+QString checkQuantity(const Entry& entry)
 {
-    return [isOrder = owner.kind->isOrder()](const Entry& entry) -> QString {
-        if (!isOrder || quantityOf(entry) != 0 || entry.isAdding() || !entry.goToRecord())
-            return {};
-        const int RQITAG = intOf(entry.rows()["RQITAG"]);
-        OpenTable payments = openTable(entry.session(), "ZORVEX.mdb", "PAYMENTS");
-        payments.rows.Index("PAYRQI");
-        return payments.rows.Seek("=", RQITAG)
-                   ? "Payment Items Found for this PO Item. Quantity cannot be Zero."
-                   : QString();
-    };
+    if (quantityOf(entry) != 0 || entry.isAdding() || !entry.goToRecord())
+        return {};
+    const int RQITAG = intOf(entry.rows()["RQITAG"]);
+    OpenTable payments = openTable(entry.session(), "ZORVEX.mdb", "PAYMENTS");
+    payments.rows.Index("PAYRQI");
+    return payments.rows.Seek("=", RQITAG)
+               ? "Payment Items Found for this PO Item. Quantity cannot be Zero."
+               : QString();
 }
 
 void quantityLeft(Entry& entry)
@@ -198,11 +197,15 @@ std::function<void(Entry&)> vendorInvoiceLeft(const LineOwner& owner)
         const QString number = entry["VINVNO"].trimmed();
         if (number.isEmpty())
             return;
+        // A line of a requisition may have been ordered.
+        const qint32 own = POTAG == 0 && !entry.isAdding() && entry.goToRecord()
+                               ? intOf(entry.rows()["POTAG"])
+                               : POTAG;
         OpenTable payments = openTable(entry.session(), "ZORVEX.mdb", "PAYMENTS");
         qint32 other = 0;
         forEachWithin(payments.rows, "PAYVENINV", {{"VENINV", number}}, [&] {
             const int tag = intOf(payments.rows["POTAG"]);
-            other = tag != POTAG ? tag : 0;
+            other = tag != own ? tag : 0;
             return other == 0;
         });
         if (other == 0)

@@ -41,7 +41,7 @@ QString searchBranch(const Entry& entry);
 QString checkPart(const Entry& entry);
 bool choosePart(Entry& entry);
 void partLeft(Entry& entry);
-EntryCheck checkQuantity(const LineOwner& owner);
+QString checkQuantity(const Entry& entry);
 // Whole numbers only, where the site has no decimals.
 void quantityLeft(Entry& entry);
 // Warns of a number that another order's payment has.

@@ -28,8 +28,10 @@ constexpr schema::FieldName carried[] = {"QTY",       "UNIT",      "Desc",      
 void showItem(Entry& entry, qint32 ILCTAG, qint32 ISNTAG)
 {
     const Session& session = entry.session();
-    const auto branch = codeRowAt(session.JobSitePath, branchCodes, ILCTAG);
     const auto item = line::itemAt(session, ISNTAG);
+    // The line of a cloned order has its item, but no branch.
+    const auto branch =
+        codeRowAt(session.JobSitePath, branchCodes, ILCTAG == 0 && item ? item->ILCTAG : ILCTAG);
     entry.setNamed(line::branch, branch ? branch->code : QString());
     entry.setNamed(line::part, item ? item->PARTNO : QString());
 }

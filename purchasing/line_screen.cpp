@@ -47,7 +47,7 @@ std::vector<EntryField> itemFields(const LineOwner& owner)
              .caption = "&Quantity:",
              .length = 13,
              .alignment = Qt::AlignRight,
-             .check = line::checkQuantity(owner),
+             .check = line::checkQuantity,
              .left = line::quantityLeft},
             {.name = "txtUNIT", .field = "UNIT", .caption = "U&nit:"},
             {.name = "txtVINVNO",
