@@ -95,6 +95,8 @@ public:
 
     Step beforeWrite(Entry& entry) override
     {
+        if (entry.isAdding())
+            saveCounter(entry);
         if (m_kind.isOrder() || entry.isAdding() || !entry.goToRecord())
             return Step::Write;
         const Session& session = entry.session();
@@ -138,8 +140,6 @@ public:
         isNew ? zorStampAdd(rows, bookmark, session.UserName)
               : zorStampEdit(rows, bookmark, session.UserName);
         rows.Bookmark(bookmark);
-        if (isNew)
-            saveCounter(entry);
         OpenTable settings = openTable(session, "ZORUSER.mdb", "VEXSETTINGS");
         zorSaveUserSetting(settings.rows, session.SiteTag, "CONOPAIR", companyOf(entry));
         zorSaveUserSetting(settings.rows, session.SiteTag, "JOBNOPAIR",

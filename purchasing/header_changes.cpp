@@ -31,6 +31,43 @@ std::vector<QString> bookmarksOf(storage::Recordset& rows, const char* index, Ke
     return found;
 }
 
+void deleteRows(const Session& session, const char* table, const char* index, KeyFields keys)
+{
+    OpenTable open = openTable(session, "ZORVEX.mdb", table);
+    WriteBatch batch(open.workspace);
+    forEachWithin(open.rows, index, keys, [&] {
+        batch.begin();
+        open.rows.Delete();
+        batch.added();
+        return true;
+    });
+    batch.commit();
+}
+
+// Those of a requisition go back to it.
+void releaseLines(const Session& session, qint32 POTAG)
+{
+    OpenTable lines = openTable(session, "ZORVEX.mdb", "RQILIST");
+    storage::Recordset& rows = lines.rows;
+    WriteBatch batch(lines.workspace);
+    for (const QString& line : bookmarksOf(rows, purchaseOrders.items, {{"POTAG", POTAG}})) {
+        if (!goToFound(rows, line))
+            continue;
+        batch.begin();
+        if (intOf(rows["REQTAG"]) == 0) {
+            rows.Delete();
+        } else {
+            rows.Edit();
+            for (const schema::FieldName field :
+                 {schema::FieldName("POTAG"), {"POITEMNO"}, {"POLINENO"}})
+                rows[field] = 0;
+            rows.Update();
+        }
+        batch.added();
+    }
+    batch.commit();
+}
+
 void clearCostCodes(const Session& session, qint32 REQTAG)
 {
     OpenTable open = openTable(session, "ZORVEX.mdb", "RQILIST");
@@ -172,35 +209,13 @@ QString deletionText(const Session& session, const DocumentKind& kind, qint32 do
 
 void deleteOfRequisition(const Session& session, qint32 REQTAG)
 {
-    {
-        OpenTable orders = openTable(session, "ZORVEX.mdb", "POLIST");
-        deleteWithin(orders.rows, "POREQ", {{"REQTAG", REQTAG}});
-    }
-    OpenTable lines = openTable(session, "ZORVEX.mdb", "RQILIST");
-    deleteWithin(lines.rows, requisitions.lines, {{"REQTAG", REQTAG}});
+    deleteRows(session, "POLIST", "POREQ", {{"REQTAG", REQTAG}});
+    deleteRows(session, "RQILIST", requisitions.lines, {{"REQTAG", REQTAG}});
 }
 
 void deleteOfOrder(const Session& session, qint32 POTAG)
 {
-    {
-        OpenTable lines = openTable(session, "ZORVEX.mdb", "RQILIST");
-        storage::Recordset& rows = lines.rows;
-        for (const QString& line : bookmarksOf(rows, purchaseOrders.items, {{"POTAG", POTAG}})) {
-            if (!goToFound(rows, line))
-                continue;
-            if (intOf(rows["REQTAG"]) == 0) {
-                rows.Delete();
-                continue;
-            }
-            rows.Edit();
-            for (const schema::FieldName field :
-                 {schema::FieldName("POTAG"), {"POITEMNO"}, {"POLINENO"}})
-                rows[field] = 0;
-            rows.Update();
-        }
-    }
-    for (const auto& [table, index] : {std::pair{"PAYMENTS", "PAYPO"}, {"RECEIVED", "RECPO"}}) {
-        OpenTable detail = openTable(session, "ZORVEX.mdb", table);
-        deleteWithin(detail.rows, index, {{"POTAG", POTAG}});
-    }
+    releaseLines(session, POTAG);
+    deleteRows(session, "PAYMENTS", "PAYPO", {{"POTAG", POTAG}});
+    deleteRows(session, "RECEIVED", "RECPO", {{"POTAG", POTAG}});
 }
