@@ -1,8 +1,10 @@
 // The lists of documents, their heads and their line items, without their windows.
 #include "purchasing/document_head.h"
 #include "purchasing/document_list.h"
+#include "purchasing/document_marks.h"
 #include "purchasing/line_list.h"
 #include "purchasing/line_screen.h"
+#include "purchasing/order_creation.h"
 #include "purchasing/vendor_panel.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_session.h"
@@ -280,6 +282,71 @@ TEST_F(DocumentScreens, AnOrderLineFollowsItsItemIntoTheLedger)
     ASSERT_TRUE(paid.open());
     type(paid.entry(), "txtQTY", "0");
     refuse(paid, "Payment Items Found for this PO Item. Quantity cannot be Zero.");
+}
+
+// An ordered line is the same in its requisition: payments of its own order do not stand against
+// it, and it cannot lose its quantity there either.
+TEST_F(DocumentScreens, PaymentsStandAgainstALineWhereverItIsEdited)
+{
+    addRequisition(1);
+    add("POLIST", {{"POTAG", 70}, {"REQTAG", 10}, {"PONO", "A"}});
+    {
+        OpenTable lines = site.open("ZORVEX.mdb", "RQILIST");
+        lines.rows.Edit();
+        lines.rows["POTAG"] = 70;
+        lines.rows.Update();
+    }
+    add("PAYMENTS", {{"PAYTAG", 1}, {"RQITAG", 100}, {"POTAG", 70}, {"VENINV", "INV1"}});
+    add("PAYMENTS", {{"PAYTAG", 2}, {"RQITAG", 900}, {"POTAG", 71}, {"VENINV", "INV2"}});
+    for (const auto& [kind, tag] : {std::pair{&requisitions, 10}, {&purchaseOrders, 70}}) {
+        DataSession edited = line(*kind, tag, "E", 100);
+        ASSERT_TRUE(edited.open());
+        type(edited.entry(), "txtVINVNO", "INV1");
+        user.expect("Duplicate Invoice No.",
+                    "Duplicate Vendor Invoice Number Detected. PO Number: ???????????????");
+        type(edited.entry(), "txtVINVNO", "INV2");
+        EXPECT_TRUE(user.allCame());
+        type(edited.entry(), "txtQTY", "0");
+        refuse(edited, "Payment Items Found for this PO Item. Quantity cannot be Zero.");
+    }
+}
+
+TEST_F(DocumentScreens, MarkupMakesTheRetailPriceAndKeepsIt)
+{
+    addRequisition(1);
+    DataSession edited = line(requisitions, 10, "E", 100);
+    ASSERT_TRUE(edited.open());
+    Entry& entry = edited.entry();
+    type(entry, "txtWHOLESALE", "10.25");
+    type(entry, "txtMARKUP", "50");
+    EXPECT_EQ(entry["RETAIL"], "15.37") << "5.125 becomes 5.12";
+    type(entry, "txtRETAIL", "16");
+    EXPECT_EQ(entry.errors().text(),
+              "Invalid Retail. Cannot Change Retail Unless Default Mark Up is Zero.");
+    type(entry, "txtMARKUP", "101");
+    EXPECT_TRUE(
+        entry.errors().text().startsWith("Invalid Markup. Value Must Be Between 0 - 100\n"));
+    type(entry, "txtMARKUP", "0");
+    type(entry, "txtRETAIL", "16");
+    EXPECT_EQ(entry.errors().ErrorCount(), 0);
+    EXPECT_TRUE(edited.update());
+    EXPECT_EQ(rows("RQILIST", {"RETAIL"}), QStringList{"16"});
+}
+
+TEST_F(DocumentScreens, AClonedLineIsEditedWithItsItem)
+{
+    addRequisition(3);
+    markLine(requisitions, 10, 102);
+    const auto created = createOrder(session, {.REQTAG = 10, .PONO = "X", .done = {}});
+    ASSERT_TRUE(created);
+    const qint32 copy = cloneOrder(session, created->POTAG, "Y");
+    DataSession edited =
+        line(purchaseOrders, copy, "E", rows("RQILIST", {"RQITAG"}).last().toInt());
+    ASSERT_TRUE(edited.open());
+    EXPECT_EQ(edited.entry().named("txtILCCODE"), "01") << "of the item: the clone has none";
+    type(edited.entry(), "txtQTY", "3");
+    EXPECT_TRUE(edited.update());
+    EXPECT_EQ(rows("INVENTORY", {"ONORDER"}), QStringList{"5"}) << "from now on it counts";
 }
 
 TEST_F(DocumentScreens, AnOrderWithoutADatePostsNothing)
