@@ -292,7 +292,7 @@ QString catalogUseText(const QString& jobSitePath, qint32 ICNTAG)
             return "Cannot Delete. This Item is Related to Existing Inventory Items. \n"
                    "All Inventory Items with this I/C Number: " +
                    number + " must be deleted first.";
-        more = rows.Seek(">", branch, std::numeric_limits<qint32>::max());
+        more = branch < std::numeric_limits<qint32>::max() && rows.Seek(">=", branch + 1);
     }
     return {};
 }
