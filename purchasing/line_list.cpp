@@ -6,6 +6,7 @@
 #include "core/tag_list.h"
 #include "core/text.h"
 #include "core/window_registry.h"
+#include "core/write_batch.h"
 #include "multiuser/record_locks.h"
 #include "purchasing/document_dialogs.h"
 #include "purchasing/document_lines.h"
@@ -161,12 +162,16 @@ void markAll(BrowseSession& list, ListState& state)
     const DocumentKind& kind = kindOf(state);
     OpenTable marks = openMarks(list);
     OpenTable lines = openTable(list.session(), "ZORVEX.mdb", "RQILIST");
+    WriteBatch batch(marks.workspace);
     forEachLine(lines.rows, kind, state.owner.docTag, [&] {
+        batch.begin();
         if (mayMark(state, lines.rows))
             zorTagListSet(marks.rows, kind.code, state.owner.docTag, lineMarks,
                           intOf(lines.rows["RQITAG"]));
+        batch.added();
         return true;
     });
+    batch.commit();
     readMarks(list, state);
     list.list().rebuild();
 }
@@ -174,7 +179,10 @@ void markAll(BrowseSession& list, ListState& state)
 void clearLineMarks(BrowseSession& list, ListState& state)
 {
     OpenTable marks = openMarks(list);
+    WriteBatch batch(marks.workspace);
+    batch.begin();
     zorTagListClear(marks.rows, kindOf(state).code, state.owner.docTag, lineMarks);
+    batch.commit();
     state.marked.clear();
     list.list().rebuild();
 }

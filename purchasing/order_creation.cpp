@@ -12,6 +12,7 @@
 #include "core/tag_list.h"
 #include "core/tags.h"
 #include "core/text.h"
+#include "core/write_batch.h"
 #include "inventory/ledger_posting.h"
 #include "purchasing/document_kind.h"
 
@@ -26,7 +27,10 @@ std::vector<qint32> taggedLines(const Session& session, qint32 REQTAG)
 void clearTags(const Session& session, qint32 REQTAG)
 {
     OpenTable marks = openTable(session, "ZORUSER.mdb", "TAGLIST");
+    WriteBatch batch(marks.workspace);
+    batch.begin();
     zorTagListClear(marks.rows, requisitions.code, REQTAG, lineMarks);
+    batch.commit();
 }
 
 OpenTable requisitionAt(const Session& session, qint32 REQTAG, bool& isThere)
