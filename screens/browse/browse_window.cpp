@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <array>
@@ -113,7 +114,9 @@ QWidget* BrowseWindow::buildLevels()
         if (m_levels.size() > 1)
             rows->view()->installEventFilter(this);
     }
-    setFocusProxy(&grid(0));
+    // A window that gives the keyboard on is a stop of the Tab key, which would lead past the parent.
+    if (!m_parent)
+        setFocusProxy(&grid(0));
     return row;
 }
 
@@ -161,20 +164,23 @@ void BrowseWindow::buildCommands()
     });
 }
 
+// One ring of all that takes the keyboard, from the parent to the last command and round again.
 void BrowseWindow::orderTabs()
 {
+    QList<QWidget*> chain;
+    if (m_parent)
+        for (QLineEdit* edit : m_parent->findChildren<QLineEdit*>())
+            chain.append(edit);
     for (const Level& level : m_levels) {
-        QWidget* before = nullptr;
-        QList<QWidget*> chain = level.pane->fields().tabChain();
-        for (const CommandButton& command : m_entering)
-            chain.append(command.button);
-        chain.append(m_exit);
-        for (QWidget* next : std::as_const(chain)) {
-            if (before)
-                setTabOrder(before, next);
-            before = next;
-        }
+        chain.append(level.pane->grid().view());
+        chain += level.pane->fields().tabChain();
     }
+    for (const auto& commands : {m_entering, m_browsing})
+        for (const CommandButton& command : commands)
+            chain.append(command.button);
+    chain.append(m_exit);
+    for (qsizetype i = 1; i < chain.size(); ++i)
+        setTabOrder(chain[i - 1], chain[i]);
 }
 
 void BrowseWindow::load()

@@ -38,7 +38,7 @@ const std::vector<Source>& sources()
 
 QString roomOf(const QString& path)
 {
-    for (const char* inner : {"core/schema", "core/storage", "screens/report"})
+    for (const char* inner : {"core/schema", "core/storage", "screens/report", "tools/tour"})
         if (path.startsWith(QString(inner) + '/'))
             return inner;
     return path.section('/', 0, 0);
@@ -53,7 +53,7 @@ int floorOf(const QString& room)
         {"cost", 5},        {"purchasing", 5},   {"receiving", 5},
         {"inventory", 5},   {"reports", 5},      {"interchange", 5},
         {"utilities", 5},   {"app", 6},          {"tools", 6},
-        {"tests", 7},       {"benchmarks", 7},
+        {"tools/tour", 7},  {"tests", 7},        {"benchmarks", 7},
     };
     return floors.value(room, -1);
 }

@@ -1,0 +1,20 @@
+// The road of one purchase, from an empty job site to the printed order, as a user goes it by the
+// keyboard: the cost structure, the vendor, the stock, the requisition, two orders, the ledger, the
+// paper.
+#pragma once
+
+#include "tools/tour/hands.h"
+#include "tools/tour/road.h"
+
+// `folder` is where the program writes files to. Ends with the program left. What keeps the road
+// from being gone to its end is thrown.
+void walkPurchaseRoad(Hands& hands, Road& road, const QString& folder);
+
+// Its parts, in their order; each begins and ends with no screen open.
+void setUpCostStructure(Hands& hands, Road& road);
+void setUpPurchasing(Hands& hands, Road& road);
+void setUpStock(Hands& hands, Road& road);
+void raiseRequisition(Hands& hands, Road& road);
+void makeOrders(Hands& hands, Road& road);
+void lookAtLedger(Hands& hands, Road& road);
+void printOrder(Hands& hands, Road& road, const QString& folder);
