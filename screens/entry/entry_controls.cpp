@@ -297,16 +297,15 @@ void EntryControls::take()
     }
 }
 
+// A dead or shown field leads on to the next one that takes the keyboard.
 void EntryControls::takeFocus()
 {
-    if (m_controls.empty())
-        return;
-    QWidget* control = m_controls[static_cast<size_t>(m_entry.focus())];
-    for (size_t i = 0; control && control->focusPolicy() == Qt::NoFocus && i < m_controls.size();
-         ++i)
-        control = m_controls[i];
-    if (control)
-        control->setFocus(Qt::OtherFocusReason);
+    const size_t first = static_cast<size_t>(m_entry.focus());
+    for (size_t i = 0; i < m_controls.size(); ++i) {
+        QWidget* control = m_controls[(first + i) % m_controls.size()];
+        if (control && control->isEnabled() && control->focusPolicy() != Qt::NoFocus)
+            return control->setFocus(Qt::OtherFocusReason);
+    }
 }
 
 QList<QWidget*> EntryControls::tabChain() const

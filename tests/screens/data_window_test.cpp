@@ -114,6 +114,15 @@ TEST_F(DataWindows, TakeAndGiveEveryKindOfField)
     EXPECT_FALSE(window.isVisible());
 }
 
+TEST_F(DataWindows, BeginInTheFirstFieldThatLives)
+{
+    DataSpec spec = settingsScreen();
+    spec.sections[0].fields[0].isLive = [](const Entry&) { return false; };
+    DataWindow window(spec, context.session, {.mode = "E"});
+    show(window);
+    EXPECT_EQ(focused(), "cboTYPE") << "else the keyboard stays in the screen before";
+}
+
 TEST_F(DataWindows, AreForReadingWhenTheRecordIsOnlyViewed)
 {
     DataSpec spec = settingsScreen();

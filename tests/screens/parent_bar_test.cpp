@@ -36,6 +36,10 @@ protected:
             field.completer()->popup()->hide();
         window.grid().takeFocus();
     }
+    static QString focused()
+    {
+        return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString();
+    }
     static QString firstCode(BrowseWindow& window)
     {
         return window.session().list().lines()[0].cells.value(0);
@@ -84,6 +88,23 @@ TEST_F(ParentBarTest, MovesRestWhileACompanyIsChosen)
     window.grid().takeFocus();
     EXPECT_TRUE(window.grid().movesEnabled());
     EXPECT_FALSE(control<tqCoNumber>(window, "tqCoNumber1").Active());
+}
+
+TEST_F(ParentBarTest, TheTabKeyLeadsRoundTheScreen)
+{
+    BrowseWindow window(frmVEXGLC01(), context);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    chooseCompany(window, "1");
+    QStringList stops;
+    constexpr int stopsAtMost = 20;
+    for (int i = 0; i < stopsAtMost && !stops.contains(focused()); ++i) {
+        stops.append(focused());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_EQ(focused(), "hsbMAIN") << "a ring";
+    EXPECT_EQ(stops.last(), "txtCONO")
+        << "the parent is one of it: " << stops.join(" ").toStdString();
 }
 
 TEST_F(ParentBarTest, PairIsKeptApartFromTheCompany)
