@@ -178,7 +178,7 @@ void DesktopArea::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange)
         // When a screen closes, the one that opened it is in front again, however many stand open.
-    setActivationOrder(ActivationHistoryOrder);
+        setActivationOrder(ActivationHistoryOrder);
     takeBackground();
     QMdiArea::changeEvent(event);
 }

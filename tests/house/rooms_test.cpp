@@ -53,7 +53,7 @@ int floorOf(const QString& room)
         {"cost", 5},        {"purchasing", 5},   {"receiving", 5},
         {"inventory", 5},   {"reports", 5},      {"interchange", 5},
         {"utilities", 5},   {"app", 6},          {"tools", 6},
-        {"tools/tour", 7},  {"tests", 7},        {"benchmarks", 7},
+        {"tools/tour", 7},  {"tests", 8},        {"benchmarks", 8},
     };
     return floors.value(room, -1);
 }
@@ -114,7 +114,8 @@ TEST(Rooms, LetOnlyTheDriverSeeTheEngine)
 TEST(Rooms, ShowBoxesOnlyThroughTheSeam)
 {
     for (const Source& source : sources()) {
-        if (source.path.startsWith("tests/"))
+        // The tour reads boxes, as tests do.
+        if (source.path.startsWith("tests/") || source.path.startsWith("tools/tour/"))
             continue;
         for (const char* box : {"QMessageBox", "QFileDialog", "QPrintDialog", "QInputDialog"}) {
             if (source.text.contains(box)) {

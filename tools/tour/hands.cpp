@@ -11,7 +11,7 @@
 namespace {
 
 using namespace std::chrono_literals;
-constexpr auto patience = 5s;  // machines that build beside it are slow
+constexpr auto patience = 60s;  // machines that build beside it are slow
 constexpr auto betweenLooks = 10ms;
 constexpr int mostTabs = 80;
 
@@ -102,6 +102,13 @@ QString textOfControl(QWidget* control)
         return box->isChecked() ? "ticked" : "not ticked";
     const auto* part = control->findChild<QLineEdit*>();
     return part ? part->text() : QString();
+}
+
+// Nothing for a control that is not to be seen.
+std::optional<QString> textOn(QWidget* front, const QString& control)
+{
+    QWidget* found = front ? front->findChild<QWidget*>(control) : nullptr;
+    return found && found->isVisible() ? std::optional(textOfControl(found)) : std::nullopt;
 }
 
 // A window beside the main one, in the plain frame that it would have on a desktop.
@@ -330,18 +337,17 @@ QString Hands::caption()
 
 QString Hands::text(const QString& control)
 {
-    QString text;
-    bool isThere = false;
-    inWindows([&] {
-        QWidget* front = frontOf(m_main);
-        QWidget* found = front ? front->findChild<QWidget*>(control) : nullptr;
-        isThere = found && found->isVisible();
-        if (isThere)
-            text = textOfControl(found);
-    });
-    if (!isThere)
+    std::optional<QString> text;
+    inWindows([&] { text = textOn(frontOf(m_main), control); });
+    if (!text)
         throw TourFailure("There is no " + control + " to be seen on " + screenInFront() + '.');
-    return text;
+    return *text;
+}
+
+void Hands::awaitText(const QString& control, const QString& text)
+{
+    await([&] { return textOn(frontOf(m_main), control) == text; },
+          "The text \"" + text + "\" in " + control);
 }
 
 QList<QStringList> Hands::rows()

@@ -50,6 +50,7 @@ public:
     QString answerBox(const QString& key);
     // Waits until the keyboard is in the control.
     void awaitFocus(const QString& control);
+    void awaitText(const QString& control, const QString& text);
     void awaitMainWindow();
 
     // ---- what is seen on the screen in front

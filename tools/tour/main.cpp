@@ -1,11 +1,11 @@
 // vextour FOLDER: goes the road of one purchase through the program's windows, on an installation
 // that it makes in FOLDER. Leaves there a page with pictures and the printed order; the exit code
 // is 0 when all was as expected.
-#include <QApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QThread>
 
+#include "app/application.h"
 #include "app/main_window.h"
 #include "core/system.h"
 #include "screens/qt_messages.h"
@@ -55,11 +55,29 @@ QString emptyFolder(const QString& name)
     return folder;
 }
 
+// A name on a coloured field, where the program looks for pictures.
+void drawLogo(const QString& folder)
+{
+    QImage logo(480, 160, QImage::Format_RGB32);
+    logo.fill(QColor(0x2f, 0x5d, 0x8a));
+    QPainter painter(&logo);
+    QFont font = painter.font();
+    font.setPixelSize(96);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(logo.rect(), Qt::AlignCenter, "ALDER");
+    painter.end();
+    if (!QDir().mkpath(folder) || !logo.save(folder + '/' + logoFile))
+        throw TourFailure("Cannot draw a logo in " + folder + '.');
+}
+
 void makeInstallation(const QString& folder)
 {
     if (!QDir().mkpath(folder) || !QDir::setCurrent(folder))
         throw TourFailure("Cannot make the folder " + folder + '.');
     createInstallation({"MAIN OFFICE", System::current().loginName()});
+    drawLogo("ZORMedia");
 }
 
 int report(Road& road, const QString& folder)
@@ -73,11 +91,12 @@ int report(Road& road, const QString& folder)
     return road.failures() == 0 ? exitDone : exitFailed;
 }
 
-int tour(QApplication& application, const QString& folder)
+int tour(const QString& folder)
 {
     QtMessages messages;
     Messages::install(&messages);
-    TourDialogs dialogs(folder);
+    const QString pdf = folder + "/order.pdf";
+    TourDialogs dialogs(pdf);
     SystemDialogs::install(&dialogs);
     frmVEXMAIN mainWindow([] { std::_Exit(exitFailed); });
     mainWindow.resize(1280, 720);
@@ -86,7 +105,7 @@ int tour(QApplication& application, const QString& folder)
     const std::unique_ptr<QThread> walk(QThread::create([&] {
         Hands hands(mainWindow);
         try {
-            walkPurchaseRoad(hands, road, folder);
+            walkPurchaseRoad(hands, road, pdf);
         } catch (const std::exception& failure) {
             road.fail(QString::fromUtf8(failure.what()));
             try {
@@ -99,8 +118,12 @@ int tour(QApplication& application, const QString& folder)
         }
     }));
     walk->start();
-    application.exec();
+    VexleyApplication::exec();
     walk->wait();
+    road.step("The files");
+    road.check("What the check of the installation's files gives",
+               QString::number(runCheck({"vexsite check", folder + '/' + installation})),
+               QString::number(exitDone));
     return report(road, folder);
 }
 
@@ -111,9 +134,7 @@ int main(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
         qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setStyle("Fusion");
+    VexleyApplication application(argc, argv);
     TourSystem system;
     System::install(&system);
     const QStringList arguments = QApplication::arguments();
@@ -124,7 +145,7 @@ int main(int argc, char** argv)
     try {
         const QString folder = emptyFolder(arguments[1]);
         makeInstallation(folder + '/' + installation);
-        return tour(application, folder);
+        return tour(folder);
     } catch (const std::exception& failure) {
         complain(QString::fromUtf8(failure.what()));
         return exitFailed;

@@ -1,6 +1,6 @@
 #include "tools/tour/purchase_road.h"
 
-void walkPurchaseRoad(Hands& hands, Road& road, const QString& folder)
+void walkPurchaseRoad(Hands& hands, Road& road, const QString& pdf)
 {
     road.begin("The road of one purchase", "From an empty job site to the order on paper.");
     hands.awaitMainWindow();
@@ -11,7 +11,7 @@ void walkPurchaseRoad(Hands& hands, Road& road, const QString& folder)
     raiseRequisition(hands, road);
     makeOrders(hands, road);
     lookAtLedger(hands, road);
-    printOrder(hands, road, folder);
+    printOrder(hands, road, pdf);
     hands.keys({"Alt+F"});
     hands.leaveBy("X");
 }

@@ -6,9 +6,9 @@
 #include "tools/tour/hands.h"
 #include "tools/tour/road.h"
 
-// `folder` is where the program writes files to. Ends with the program left. What keeps the road
-// from being gone to its end is thrown.
-void walkPurchaseRoad(Hands& hands, Road& road, const QString& folder);
+// `pdf` is the file into which the program saves pages. Ends with the program left. What keeps the
+// road from being gone to its end is thrown.
+void walkPurchaseRoad(Hands& hands, Road& road, const QString& pdf);
 
 // Its parts, in their order; each begins and ends with no screen open.
 void setUpCostStructure(Hands& hands, Road& road);
@@ -17,4 +17,7 @@ void setUpStock(Hands& hands, Road& road);
 void raiseRequisition(Hands& hands, Road& road);
 void makeOrders(Hands& hands, Road& road);
 void lookAtLedger(Hands& hands, Road& road);
-void printOrder(Hands& hands, Road& road, const QString& folder);
+void printOrder(Hands& hands, Road& road, const QString& pdf);
+
+// The file of the company's logo, in the folder where the program looks for it.
+inline constexpr char logoFile[] = "ALDER.png";

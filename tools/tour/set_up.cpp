@@ -59,7 +59,9 @@ void setUpCostStructure(Hands& hands, Road& road)
                 {"mebState", "TX"},
                 {"txtZIP", "77550"},
                 {"mebVOICE", "4095550142"},
-                {"txtINFOLINE1", "Mechanical - Piping - Process"}});
+                {"txtINFOLINE1", "Mechanical - Piping - Process"},
+                {"txtLOGOFILENAME", logoFile}});
+    hands.keys({"Return"});
     road.picture("company", hands.picture(), "A company");
     hands.command("cmdUpdate");
     hands.awaitScreen("frmZORCO01");
@@ -137,7 +139,10 @@ void setUpPurchasing(Hands& hands, Road& road)
                 {"txtSHIPTO", "Pump House, Gate 3"},
                 {"txtSHIPVIA", "Vendor's truck"},
                 {"txtFOB", "Job site"},
-                {"txtTERMS", "Net 30 days"}});
+                {"txtTERMS", "Net 30 days"},
+                {"cboItem1", "2"},
+                {"cboItem2", "3"},
+                {"cboItem3", "5"}});
     road.picture("job_defaults", hands.picture(), "What a new requisition begins with");
     hands.command("cmdUpdate");
     hands.awaitScreen("frmVEXJND01");

@@ -1,4 +1,4 @@
-// The desktop system's own dialogs, answered: files are written into the tour's folder.
+// The desktop system's own dialogs, answered: what is saved goes into one file.
 #pragma once
 
 #include "screens/system_dialogs.h"
@@ -6,17 +6,16 @@
 class TourDialogs : public SystemDialogs
 {
 public:
-    explicit TourDialogs(const QString& folder) : m_folder(folder) {}
+    explicit TourDialogs(const QString& file) : m_file(file) {}
 
     bool choosePrinter(QPrinter&, int) override { return false; }
-    QString chooseFileToWrite(const QString&, const QString& suggestion, const QString&) override
+    QString chooseFileToWrite(const QString&, const QString&, const QString&) override
     {
-        const QString name = suggestion.section('/', -1);
-        return m_folder + '/' + (name.isEmpty() ? QString("document") : name);
+        return m_file;
     }
     QString chooseFileToRead(const QString&, const QString&, const QString&) override { return {}; }
     QSizeF defaultPaper() override { return {}; }
 
 private:
-    QString m_folder;
+    QString m_file;
 };
