@@ -16,6 +16,24 @@ QString pathOf(const QString& page)
     return ":/help/" + page + ".md";
 }
 
+// Pictures as wide as the page at most.
+class HelpText : public QTextBrowser
+{
+public:
+    QVariant loadResource(int type, const QUrl& name) override
+    {
+        QVariant loaded = QTextBrowser::loadResource(type, name);
+        if (type != QTextDocument::ImageResource)
+            return loaded;
+        QImage picture = loaded.value<QImage>();
+        if (picture.isNull())
+            picture.loadFromData(loaded.toByteArray());
+        const int room = viewport()->width() - 4 * static_cast<int>(document()->documentMargin());
+        return picture.width() > room ? picture.scaledToWidth(room, Qt::SmoothTransformation)
+                                      : picture;
+    }
+};
+
 }  // namespace
 
 QString helpPageFor(const QWidget* control)
@@ -33,16 +51,18 @@ void showHelp(const QString& page)
 {
     QDialog window(QApplication::activeWindow());
     window.setObjectName("frmHelp");
-    auto* text = new QTextBrowser;
+    auto* text = new HelpText;
     text->setObjectName("txtHelp");
+    auto* layout = new QVBoxLayout(&window);
+    layout->addWidget(text);
+    window.resize(760, 600);
+    window.ensurePolished();
+    layout->activate();  // pictures ask how wide the page is
     text->setSearchPaths({":/help"});
     text->setSource(QUrl("qrc" + pathOf(page)), QTextDocument::MarkdownResource);
     window.setWindowTitle("Help - " + text->documentTitle());
     if (text->documentTitle().isEmpty())
         window.setWindowTitle("Help");
-    auto* layout = new QVBoxLayout(&window);
-    layout->addWidget(text);
-    window.resize(640, 560);
     window.exec();
 }
 

@@ -15,4 +15,7 @@ void KeyLine::setKeys(const QList<std::pair<QString, QString>>& keys)
         parts.append("<b>" + key.toHtmlEscaped() + "</b>&nbsp;" + meaning.toHtmlEscaped());
     parts.append("<b>F1</b>&nbsp;Help");
     setText(parts.join("&nbsp;&nbsp; "));
+    // A narrow screen is as wide as its keys; a wide one may be made smaller.
+    constexpr int widest = 640;
+    setMinimumWidth(std::min(sizeHint().width(), widest));
 }

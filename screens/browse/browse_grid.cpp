@@ -18,6 +18,8 @@ constexpr int twipsPerInch = 1440;
 // The place in the list is counted only when the user pauses: over many records it takes a while.
 constexpr int positionDelay = 150;
 
+constexpr QChar distance(0x2002);  // a space of half an em
+
 struct MoveKey
 {
     Qt::Key key;
@@ -34,7 +36,8 @@ constexpr MoveKey moveKeys[] = {
     {Qt::Key_End, BrowseGrid::Move::End},
 };
 
-// The highlight is the row; a single cell is never marked.
+// The highlight is the row; a single cell is never marked. Figures keep a distance from the text of
+// the next column.
 class RowDelegate : public QStyledItemDelegate
 {
 public:
@@ -45,6 +48,8 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, index);
         option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
+        if (option->displayAlignment & Qt::AlignRight)
+            option->text += distance;
     }
 };
 

@@ -120,8 +120,9 @@ QVariant BrowsePage::headerData(int section, Qt::Orientation orientation, int ro
     if (orientation != Qt::Horizontal || section == 0)
         return {};
     const GridColumn& column = m_columns[static_cast<size_t>(section - 1)];
+    constexpr QChar distance(0x2002);  // as the figures below it keep it
     if (role == Qt::DisplayRole)
-        return column.heading;
+        return column.alignment & Qt::AlignRight ? column.heading + distance : column.heading;
     if (role == Qt::TextAlignmentRole)
         return QVariant(column.alignment | Qt::AlignVCenter);
     return {};

@@ -58,6 +58,33 @@ void fitWidth(QLineEdit& edit, int length)
     edit.setMaximumWidth(character * shown + 40);
 }
 
+// Where each field stands. Columns are as long as each other, but for a heading near the foot of
+// one, which goes on to the next with its fields.
+struct FormCell
+{
+    int row;
+    int column;
+};
+std::vector<FormCell> cellsOf(const std::vector<EntryField>& fields, int columns)
+{
+    constexpr int leastBelowHeading = 2;
+    int rows = 0;
+    for (const EntryField& field : fields)
+        rows += rowsOf(field);
+    const int perColumn = (rows + columns - 1) / columns;
+    std::vector<FormCell> cells;
+    FormCell next{0, 0};
+    for (const EntryField& field : fields) {
+        const bool fits = field.kind == Kind::Heading ? next.row + leastBelowHeading < perColumn
+                                                      : next.row < perColumn;
+        if (!fits && next.column < columns - 1)
+            next = {0, next.column + 1};
+        cells.push_back(next);
+        next.row += rowsOf(field);
+    }
+    return cells;
+}
+
 }  // namespace
 
 DataWindow::DataWindow(DataSpec spec, const Session& session, const DataRecord& record)
@@ -147,18 +174,14 @@ QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
     auto* grid = new QGridLayout(form);
     grid->setHorizontalSpacing(10);
     const int columns = std::max(section.columns, 1);
-    int rows = 0;
-    for (const EntryField& field : section.fields)
-        rows += rowsOf(field);
-    const int perColumn = std::max((rows + columns - 1) / columns, 1);
+    const std::vector<FormCell> cells = cellsOf(section.fields, columns);
     int at = firstField - 1;
-    int next = 0;
     for (const EntryField& field : section.fields) {
         ++at;
-        const int row = next % perColumn;
-        const int column = next / perColumn * 3;
+        const FormCell& cell = cells[static_cast<size_t>(at - firstField)];
+        const int row = cell.row;
+        const int column = cell.column * 3;
         const int height = rowsOf(field);
-        next += height;
         QWidget* control = m_fields->control(at, form);
         m_pageOf.push_back(area);
         // Names come and go with what is typed: the form keeps room for the usual ones.
@@ -194,7 +217,7 @@ QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
     }
     for (int c = 0; c < columns; ++c)
         grid->setColumnStretch(c * 3 + 1, 1);
-    grid->setRowStretch(perColumn, 1);
+    grid->setRowStretch(grid->rowCount(), 1);
     area->setWidget(form);
     return area;
 }

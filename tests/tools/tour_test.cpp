@@ -19,7 +19,7 @@ QString contentOf(const QString& path)
 TEST(Tour, ARoadThatDiffersSaysSo)
 {
     const QTemporaryDir folder;
-    Road road(folder.path());
+    Road road(folder.path(), "guide");
     road.begin("A road", "Short.");
     road.step("One step");
     road.check("A number", "7", "7");
@@ -28,15 +28,15 @@ TEST(Tour, ARoadThatDiffersSaysSo)
     road.picture("none", QImage(), "nothing");
     EXPECT_EQ(road.checks(), 2);
     EXPECT_EQ(road.failures(), 2) << "a picture that is none is a failure";
-    ASSERT_TRUE(road.write("guide"));
+    ASSERT_TRUE(road.write());
     const QString page = contentOf(folder.filePath("index.html"));
     EXPECT_TRUE(page.contains("DIFFERS: A name: &quot;Harbor_*&quot; is seen"))
         << page.toStdString();
     const QString guide = contentOf(folder.filePath("guide.md"));
     EXPECT_TRUE(guide.contains("## One step"));
     EXPECT_FALSE(guide.contains("DIFFERS")) << "the guide tells the road alone";
-    Road lost(folder.filePath("missing"));
-    EXPECT_FALSE(lost.write("guide"));
+    Road lost(folder.filePath("missing"), "guide");
+    EXPECT_FALSE(lost.write());
 }
 
 TEST(Tour, LeavesAFolderOfOtherFilesAlone)

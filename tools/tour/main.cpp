@@ -82,7 +82,7 @@ void makeInstallation(const QString& folder)
 
 int report(Road& road, const QString& folder)
 {
-    if (!road.write(guidePage))
+    if (!road.write())
         road.fail("The page cannot be written.");
     say(QString("%1 checks, %2 differ. The road is told in %3/index.html.")
             .arg(road.checks())
@@ -101,7 +101,7 @@ int tour(const QString& folder)
     frmVEXMAIN mainWindow([] { std::_Exit(exitFailed); });
     mainWindow.resize(1280, 720);
     QTimer::singleShot(0, &mainWindow, [&] { mainWindow.load(); });
-    Road road(folder);
+    Road road(folder, guidePage);
     const std::unique_ptr<QThread> walk(QThread::create([&] {
         Hands hands(mainWindow);
         try {

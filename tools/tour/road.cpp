@@ -1,5 +1,6 @@
 #include "tools/tour/road.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTextDocument>
 #include <cstdio>
@@ -41,8 +42,10 @@ void Road::tell(const QString& text)
 
 void Road::picture(const QString& name, const QImage& image, const QString& caption)
 {
-    const QString file = name + ".png";
-    if (image.isNull() || !image.save(m_folder + '/' + file))
+    const QString file = m_name + '/' + name + ".png";
+    constexpr int smallest = 0;  // compressed as far as it goes
+    if (image.isNull() || !QDir(m_folder).mkpath(m_name) ||
+        !image.convertToFormat(QImage::Format_RGB32).save(m_folder + '/' + file, "PNG", smallest))
         return fail("The picture " + file + " cannot be written.");
     add("![" + caption + "](" + file + ")\n\n");
 }
@@ -64,13 +67,13 @@ void Road::fail(const QString& text)
     m_page += "- **DIFFERS: " + plain(text) + "**\n\n";
 }
 
-bool Road::write(const QString& guideName)
+bool Road::write()
 {
     m_page += QString("%1 checks, %2 differ.\n").arg(m_checks).arg(m_failures);
     QTextDocument page;
     page.setMarkdown(m_page);
     const bool isWritten = writeFile("index.html", page.toHtml());
-    return writeFile(guideName + ".md", m_guide) && isWritten;
+    return writeFile(m_name + ".md", m_guide) && isWritten;
 }
 
 bool Road::writeFile(const QString& name, const QString& text)

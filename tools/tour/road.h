@@ -9,8 +9,9 @@
 class Road
 {
 public:
-    // The pictures go into the folder, which must be there, as they are taken.
-    explicit Road(const QString& folder) : m_folder(folder) {}
+    // The page goes into the folder, which must be there, the pictures into one of that name in it,
+    // as they are taken.
+    Road(const QString& folder, const QString& name) : m_folder(folder), m_name(name) {}
 
     void begin(const QString& title, const QString& text);
     void step(const QString& title);
@@ -27,13 +28,14 @@ public:
 
     // "index.html" with the checks, and the same road as a page of the guide, NAME.md. False when
     // one cannot be written.
-    bool write(const QString& guideName);
+    bool write();
 
 private:
     void add(const QString& markdown);
     bool writeFile(const QString& name, const QString& text);
 
     QString m_folder;
+    QString m_name;
     QString m_page;   // Markdown, with the checks
     QString m_guide;  // Markdown, without them
     int m_checks = 0;

@@ -140,9 +140,9 @@ void setUpPurchasing(Hands& hands, Road& road)
                 {"txtSHIPVIA", "Vendor's truck"},
                 {"txtFOB", "Job site"},
                 {"txtTERMS", "Net 30 days"},
-                {"cboItem1", "2"},
-                {"cboItem2", "3"},
-                {"cboItem3", "5"}});
+                {"cboItem1", "3"},
+                {"cboItem2", "4"},
+                {"cboItem3", "6"}});
     road.picture("job_defaults", hands.picture(), "What a new requisition begins with");
     hands.command("cmdUpdate");
     hands.awaitScreen("frmVEXJND01");
