@@ -120,7 +120,7 @@ bool frmVEXMAIN::runOwnCommand(const QString& entryName)
         {"miSelectDB", &frmVEXMAIN::selectJobSite},
         {"miUSERSET", &frmVEXMAIN::editUserSettings},
         {"miHelpAbout", &frmVEXMAIN::showAbout},
-        {"miExit", &frmVEXMAIN::exitProgram},
+        {"miExit", &frmVEXMAIN::exitByMenu},
         {"miHorizontally", &frmVEXMAIN::tileHorizontally},
         {"miVertical", &frmVEXMAIN::tileVertically},
         {"miCascade", &frmVEXMAIN::cascade},
@@ -157,7 +157,10 @@ void frmVEXMAIN::selectJobSite()
 {
     frmDBPSelect choice(m_session);
     choice.exec();
-    m_startup.takeJobSite(choice.selectedPath());
+    // Open screens write to the site on which they were opened: they go with it.
+    const QString chosen = choice.selectedPath();
+    const bool isOther = dnNotBlank(chosen) && chosen.trimmed() != m_session.JobSitePath;
+    m_startup.takeJobSite(isOther && !m_area->closeScreens() ? QString() : chosen);
 }
 
 void frmVEXMAIN::editUserSettings()
@@ -173,11 +176,15 @@ void frmVEXMAIN::showAbout()
     frmAboutView(QString("About ") + moduleName, moduleName, m_session.VersionText)->exec();
 }
 
-void frmVEXMAIN::exitProgram()
+// False when a screen stays, and the program with it.
+bool frmVEXMAIN::exitProgram()
 {
+    if (!m_area->closeScreens())
+        return false;
     ReportRun::cancelAll();  // one that lets events in would go on without a window
     savePlace();
     QCoreApplication::exit();
+    return true;
 }
 
 void frmVEXMAIN::tileHorizontally()
@@ -195,8 +202,7 @@ void frmVEXMAIN::cascade()
 
 void frmVEXMAIN::closeEvent(QCloseEvent* event)
 {
-    event->accept();
-    exitProgram();
+    event->setAccepted(exitProgram());
 }
 
 void frmVEXMAIN::restorePlace()

@@ -44,7 +44,8 @@ private:
     void selectJobSite();
     void editUserSettings();
     void showAbout();
-    void exitProgram();
+    bool exitProgram();
+    void exitByMenu() { exitProgram(); }
     void tileHorizontally();
     void tileVertically();
     void cascade();
