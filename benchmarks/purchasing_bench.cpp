@@ -1,5 +1,5 @@
-// Purchase orders: one made from 500 tagged lines against the bare commits that its steps need, and
-// what closing and entering cost in a document of 1,000 lines.
+// Purchase orders: one made from 500 tagged lines, and a line saved in an order of 1,000, against
+// the bare commits that their steps need; and what closing and entering cost in such a document.
 #include "benchmarks/bench_report.h"
 #include "benchmarks/bench_site.h"
 #include "core/keyed_access.h"
@@ -7,7 +7,9 @@
 #include "core/storage/workspace.h"
 #include "core/tag_list.h"
 #include "purchasing/document_lines.h"
+#include "purchasing/line_screen.h"
 #include "purchasing/order_creation.h"
+#include "screens/data/data_session.h"
 
 namespace {
 
@@ -16,7 +18,50 @@ constexpr int longDocument = 1'000;
 
 const BenchGoal creationGoal{.ratio = 2.0, .unit = "ms", .perSecond = 1e-3};
 const BenchGoal totalsGoal{.ratio = 1.0, .unit = "ms", .perSecond = 1e-3, .bound = 50};
+const BenchGoal saveGoal{.ratio = 1.5, .unit = "ms", .perSecond = 1e-3};
 const BenchGoal numbersGoal{.ratio = 1.0, .unit = "ms", .perSecond = 1e-3, .bound = 20};
+
+constexpr int longOrder = 9;  // POTAG
+
+// What the screen of a line looks its codes up in; of an order many lines, of an item a few entries
+// in the ledger.
+void addLongOrder(storage::Workspace& wks, const storage::Database& file, const QString& folder)
+{
+    benchFile(wks, folder + "MAIN.mdb", {&schema::JOBLIST, &schema::CCALIST});
+    const storage::Database system = benchFile(wks, folder + "ZORSYS.mdb", {&schema::SYSSETTINGS});
+    const auto addTo = [](const storage::Database& to, const char* table,
+                          const std::vector<KeyField>& values) {
+        storage::Recordset rows = to.OpenRecordset(table);
+        rows.AddNew();
+        for (const KeyField& value : values)
+            rows[value.field] = value.key;
+        rows.Update();
+    };
+    const auto add = [&](const char* table, const std::vector<KeyField>& values) {
+        addTo(file, table, values);
+    };
+    addTo(system, "SYSSETTINGS", {{"JOBNOTYPE", "C"}, {"JOBNOSIZE", 8}});
+    addTo(wks.OpenDatabase(folder + "ZORUSER.mdb"), "VEXSETTINGS", {{"DBTAG", 1}});
+    add("VEXTAGS", {{"RQITAG", 1}});
+    add("POLIST", {{"POTAG", longOrder},
+                   {"REQTAG", 0},
+                   {"PONO", "L"},
+                   {"CONO", 1},
+                   {"JOBNO", "    4711"},
+                   {"FDATE", "03/07/2026"},
+                   {"LDATE", "20260307"}});
+    add("ILCLIST", {{"ILCTAG", 1}, {"ILCCODE", "01"}});
+    add("INVENTORY", {{"ISNTAG", 5}, {"ILCTAG", 1}, {"PARTNO", "P-1"}, {"Desc", "Gate valve"}});
+    for (int line = 1; line <= longDocument; ++line)
+        add("RQILIST", {{"RQITAG", 900'000 + line},
+                        {"REQTAG", 0},
+                        {"POTAG", longOrder},
+                        {"POLINENO", line},
+                        {"POITEMNO", line},
+                        {"QTY", 2},
+                        {"AMOUNT", 1.25},
+                        {"Desc", "GATE VALVE, 2 INCH"}});
+}
 
 // Requisition 1 has lines to be ordered, requisition 2 many.
 Session makeSite()
@@ -26,11 +71,13 @@ Session makeSite()
     session.SiteTag = 1;
     storage::Workspace wks = storage::CreateWorkspace("wksVEX");
     const QString folder = session.JobSitePath + '/';
-    benchFile(wks, folder + "ZORUSER.mdb", {&schema::VEXSETTINGS, &schema::TAGLIST});
+    benchFile(wks, folder + "ZORUSER.mdb",
+              {&schema::VEXSETTINGS, &schema::TAGLIST, &schema::VEXRQIAUTO});
     const storage::Database file =
         benchFile(wks, folder + "ZORVEX.mdb",
                   {&schema::REQLIST, &schema::POLIST, &schema::RQILIST, &schema::VEXTAGS,
-                   &schema::VEXCOUNTERS, &schema::INVENTORY, &schema::INVTRANS});
+                   &schema::VEXCOUNTERS, &schema::INVENTORY, &schema::INVTRANS, &schema::ILCLIST,
+                   &schema::MCLIST, &schema::GLCODES, &schema::PAYMENTS});
     wks.BeginTrans();
     storage::Recordset heads = file.OpenRecordset("REQLIST");
     storage::Recordset lines = file.OpenRecordset("RQILIST");
@@ -54,6 +101,7 @@ Session makeSite()
             lines.Update();
         }
     }
+    addLongOrder(wks, file, folder);
     wks.CommitTrans();
     return session;
 }
@@ -125,6 +173,90 @@ void bareCommits(benchmark::State& state)
     }
 }
 
+// The order and the ledger as they were before the line.
+void takeLineAway()
+{
+    storage::Workspace wks = storage::CreateWorkspace("wksVEX");
+    storage::Recordset lines = openLines(wks);
+    lines.Index(purchaseOrders.lines);
+    wks.BeginTrans();
+    if (lines.Seek("=", longOrder, longDocument + 1))
+        lines.Delete();
+    storage::Recordset ledger =
+        wks.OpenDatabase(session().JobSitePath + "/ZORVEX.mdb").OpenRecordset("INVTRANS");
+    for (bool more = ledger.RecordCount() > 0 && ledger.MoveFirst(); more; more = ledger.MoveNext())
+        ledger.Delete();
+    wks.CommitTrans();
+}
+
+void saveNewLine(benchmark::State& state)
+{
+    const auto owner = lineOwnerOf(session(), purchaseOrders, longOrder);
+    DataSession screen(frmVEXRQI02(session(), *owner, std::make_shared<bool>(false)), session(),
+                       {.mode = "A", .index = "RQITAG", .parent = {{"POTAG", longOrder}}});
+    Entry& entry = screen.entry();
+    if (!screen.open())
+        return state.SkipWithError("the screen did not open");
+    takeLineAway();  // and what the bare commits have left in the ledger
+    for (auto _ : state) {
+        state.PauseTiming();
+        entry.setNamed("txtILCCODE", "01");
+        entry.setNamed("txtPARTNO", "P-1");
+        entry.setText("Desc", "GATE VALVE, 2 INCH");
+        entry.setText("QTY", "4");
+        entry.setText("UNITPRICE", "12.500");
+        state.ResumeTiming();
+        screen.update();
+        state.PauseTiming();
+        OpenTable lines = openTable(session(), "ZORVEX.mdb", "RQILIST");
+        lines.rows.Index(purchaseOrders.lines);
+        OpenTable ledger = openTable(session(), "ZORVEX.mdb", "INVTRANS");
+        if (!lines.rows.Seek("=", longOrder, longDocument + 1) ||
+            numberOf(lines.rows["AMOUNT"]) != 50 || ledger.rows.RecordCount() != 1) {
+            state.SkipWithError("the line is not saved");
+            break;
+        }
+        takeLineAway();
+        state.ResumeTiming();
+    }
+}
+
+// The tag, the ledger's row, the item's quantities, the line, its stamp, and the branch last used.
+void bareLineCommits(benchmark::State& state)
+{
+    session();
+    for (auto _ : state) {
+        OpenTable settings = openTable(session(), "ZORUSER.mdb", "VEXSETTINGS");
+        storage::Workspace wks = storage::CreateWorkspace("wksVEX");
+        const storage::Database file = wks.OpenDatabase(session().JobSitePath + "/ZORVEX.mdb");
+        const auto edit = [](storage::Recordset& rows, schema::FieldName field, int value) {
+            rows.Edit();
+            rows[field] = value;
+            rows.Update();
+        };
+        static int next = 1'000'000;
+        storage::Recordset tags = file.OpenRecordset("VEXTAGS");
+        edit(tags, "RQITAG", ++next);
+        storage::Recordset ledger = file.OpenRecordset("INVTRANS");
+        ledger.AddNew();
+        ledger["ISNTAG"] = 6;
+        ledger["ITEMTAG"] = next;
+        ledger.Update();
+        storage::Recordset items = file.OpenRecordset("INVENTORY");
+        edit(items, "ONORDER", next);
+        storage::Recordset lines = file.OpenRecordset("RQILIST");
+        lines.AddNew();
+        lines["RQITAG"] = next;
+        lines["POTAG"] = longOrder + 1;
+        lines["POLINENO"] = next % 30'000;
+        lines["Desc"] = "GATE VALVE, 2 INCH";
+        lines.Update();
+        lines.Bookmark(QString(lines.LastModified()));
+        edit(lines, "REVNO", 1);
+        edit(settings.rows, "ILCTAG", next);
+    }
+}
+
 void closeLongDocument(benchmark::State& state)
 {
     session();
@@ -150,6 +282,7 @@ void numberNewLine(benchmark::State& state)
 void registerPurchasingBenchmarks()
 {
     registerPair("order_creation_500_lines", creationGoal, createOrders, bareCommits, 3);
+    registerPair("order_line_save_1000_lines", saveGoal, saveNewLine, bareLineCommits);
     registerPair("order_totals_1000_lines", totalsGoal, closeLongDocument, nullptr);
     registerPair("order_new_line_1000_lines", numbersGoal, numberNewLine, nullptr);
 }
