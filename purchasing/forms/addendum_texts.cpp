@@ -4,7 +4,7 @@
 #include "core/system.h"
 #include "core/text.h"
 #include "purchasing/forms/addendum.h"
-#include "purchasing/forms/form_drawing.h"
+#include "purchasing/forms/addendum_drawing.h"
 #include "screens/browse/browse_session.h"
 #include "screens/data/data_window.h"
 #include "screens/desktop.h"

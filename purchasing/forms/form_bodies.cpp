@@ -136,10 +136,8 @@ void addNotice(FormBody& body, std::span<const char* const> lines)
 
 void addSubtotals(const FormSource& source, FormBody& body)
 {
-    if (!source.settings.hasSubtotals)
-        return;
-    body.buffer.addBlank();
-    body.buffer.addSubtotalRows(source.width);
+    if (source.settings.hasSubtotals)
+        body.buffer.addSubtotalRows(source.width);
 }
 
 // ---- receipts and issues, which print alike
@@ -176,13 +174,13 @@ FormBody movementBody(const FormSource& source, const Movement& movement,
                 row.quantity = numberOf(moved.rows[movement.quantity]);
                 row.amount = lineAmount(*row.quantity, numberOf(line["UNITPRICE"]), row.unitFactor);
                 body.amount = roundedToCents(body.amount + row.amount.value_or(0));
+                row.further = {trimmedTextOf(moved.rows[movement.date]),
+                               trimmedTextOf(moved.rows[movement.reference]),
+                               movement.hasJob ? trimmedTextOf(moved.rows["JOBNO"])
+                                               : source.document.jobNumber};
                 if (costCodes)
                     body.buffer.addToSubtotal(costCodes->of(line), row.amount.value_or(0));
             }
-            row.further = {
-                trimmedTextOf(moved.rows[movement.date]),
-                trimmedTextOf(moved.rows[movement.reference]),
-                movement.hasJob ? trimmedTextOf(moved.rows["JOBNO"]) : source.document.jobNumber};
             body.buffer.addDescribed(row, description, source.width);
             return source.proceed();
         });

@@ -9,8 +9,3 @@
 // run is to stop.
 bool drawForm(ReportRun& run, const Form& form, const FormDocument& document,
               const std::vector<FormRow>& rows, const QStringList& totals = {});
-
-// A text on pages of its own under a heading, the document's name in small letters beside it. False
-// when the run is to stop.
-bool drawAddendum(ReportRun& run, const QString& heading, const QString& documentName,
-                  const QString& text);

@@ -9,7 +9,7 @@ constexpr char priceMask[] = "###,###,###.000";
 constexpr char amountMask[] = "###,###,###.00";
 constexpr int boxHeight = 440;
 constexpr int signatureHeight = 580;
-constexpr int characterWidth = 96;  // twips, of Courier New 8
+constexpr double characterWidth = 96.1;  // twips, of Courier New 8; rather a little more
 constexpr int cellPadding = 50;
 
 QString shown(const std::optional<double>& number, const char* mask)
@@ -24,7 +24,7 @@ QString withMark(const QString& number, const QString& mark)
 }
 
 // ---- columns
-FormColumn itemColumn(const QString& heading = "ITEM", int width = 530)
+FormColumn itemColumn(const QString& heading = "ITEM", int width = 490)
 {
     return {heading, width, TextAlignment::Centre,
             [](const FormRow& row) { return dnFormat(row.item, "###"); }};
@@ -33,13 +33,13 @@ FormColumn itemColumn(const QString& heading = "ITEM", int width = 530)
 FormColumn quantityColumn(const FormSettings& settings)
 {
     const char* mask = settings.wholeQuantities ? "###,###" : "###,###.0";
-    return {"QUANTITY", 970, TextAlignment::Right,
+    return {"QUANTITY", 930, TextAlignment::Right,
             [mask](const FormRow& row) { return shown(row.quantity, mask); }};
 }
 
 FormColumn unitColumn()
 {
-    return {"UNIT", 590, TextAlignment::Left, [](const FormRow& row) { return row.unit; }};
+    return {"UNIT", 590, TextAlignment::Centre, [](const FormRow& row) { return row.unit; }};
 }
 
 FormColumn descriptionColumn()
@@ -49,7 +49,7 @@ FormColumn descriptionColumn()
 
 FormColumn priceColumn()
 {
-    return {"UNIT PRICE", 1350, TextAlignment::Right, [](const FormRow& row) {
+    return {"UNIT PRICE", 1250, TextAlignment::Right, [](const FormRow& row) {
                 return withMark(shown(row.unitPrice, priceMask), row.unitFactor);
             }};
 }
@@ -84,7 +84,7 @@ std::vector<FormColumn> standardColumns(const FormSettings& settings)
 {
     std::vector<FormColumn> columns = {itemColumn()};
     if (settings.hasSecondColumn)
-        columns.push_back({settings.secondColumn, 1400, TextAlignment::Left,
+        columns.push_back({settings.secondColumn, 1260, TextAlignment::Left,
                            [](const FormRow& row) { return row.vendorInvoice; }, true});
     for (const FormColumn& column : {quantityColumn(settings), unitColumn(), descriptionColumn(),
                                      priceColumn(), amountColumn()})
@@ -102,8 +102,8 @@ std::vector<FormColumn> inventoryColumns(const FormSettings& settings)
             quantityColumn(settings),
             unitColumn(),
             {"PART NUMBER", 1400, TextAlignment::Left,
-             [](const FormRow& row) { return row.partNumber; }},
-            furtherColumn("MFG", 1400, TextAlignment::Left, 0),
+             [](const FormRow& row) { return row.partNumber; }, true},
+            furtherColumn("MFG", 1400, TextAlignment::Left, 0, true),
             descriptionColumn(),
             priceColumn(),
             amountColumn(),
@@ -120,9 +120,9 @@ std::vector<FormColumn> movementColumns(const FormSettings& settings, const QStr
             descriptionColumn(),
             priceColumn(),
             amountColumn(),
-            furtherColumn(date, 1080, TextAlignment::Centre, 0),
-            furtherColumn(reference, 1460, TextAlignment::Left, 1, true),
-            furtherColumn("JOB NUMBER", 900, TextAlignment::Left, 2)};
+            furtherColumn(date, 1240, TextAlignment::Centre, 0),
+            furtherColumn(reference, 1300, TextAlignment::Left, 1, true),
+            furtherColumn("JOB NUMBER", 1000, TextAlignment::Left, 2)};
 }
 
 std::vector<FormColumn> statusColumns()
@@ -130,7 +130,7 @@ std::vector<FormColumn> statusColumns()
     std::vector<FormColumn> columns = {itemColumn("PO ITM", 680)};
     int number = 0;
     for (const char* heading : {"ORDERED", "RECEIVED", "RETURNED", "BK ORDERED", "BALANCE"})
-        columns.push_back(furtherColumn(heading, 1110, TextAlignment::Right, number++));
+        columns.push_back(furtherColumn(heading, 1180, TextAlignment::Right, number++));
     columns.push_back(unitColumn());
     columns.push_back(descriptionColumn());
     return columns;
@@ -177,9 +177,9 @@ std::vector<FormBoxRow> standardHead(const QString& requisitionLabel, bool hasRe
               {"VENDOR", &FormDocument::vendor, 450}}},
             {boxHeight + 220,
              {{"ADDRESS", &FormDocument::address, 550},
-              {"CITY", &FormDocument::city, 270},
+              {"CITY", &FormDocument::city, 260},
               {"STATE", &FormDocument::state, 60},
-              {"ZIP/PLUS4", &FormDocument::zip, 120}}},
+              {"ZIP/PLUS4", &FormDocument::zip, 130}}},
             {boxHeight,
              {{"PHONE", &FormDocument::phone, 225},
               {"FAX", &FormDocument::fax, 325},
@@ -298,7 +298,7 @@ std::vector<FormColumn> columnsOf(OrderForm form, const FormSettings& settings)
             break;
     }
     std::vector<FormColumn> columns = standardColumns(settings);
-    columns.push_back({"REV.", 520, TextAlignment::Centre,
+    columns.push_back({"REV.", 480, TextAlignment::Centre,
                        [](const FormRow& row) { return dnFormat(row.revision, "##"); }});
     return columns;
 }
@@ -318,7 +318,7 @@ std::vector<int> columnWidths(const Form& form, int width)
 
 int cellLength(int width)
 {
-    return std::max(1, (width - 2 * cellPadding) / characterWidth);
+    return std::max(1, static_cast<int>((width - 2 * cellPadding) / characterWidth));
 }
 
 int descriptionLength(const Form& form, int width)

@@ -9,6 +9,7 @@
 #include "core/system.h"
 #include "purchasing/document_marks.h"
 #include "purchasing/forms/addendum.h"
+#include "purchasing/forms/addendum_drawing.h"
 #include "purchasing/forms/document_prints.h"
 #include "purchasing/forms/form_bodies.h"
 #include "purchasing/forms/form_drawing.h"

@@ -1,13 +1,11 @@
 #include "purchasing/forms/print_buffer.h"
 
 #include "core/line_amount.h"
-#include "core/number_format.h"
 #include "core/write_batch.h"
 #include "core/zap.h"
 
 namespace {
 
-constexpr char amountMask[] = "###,###,###.00";
 constexpr int longestText = 100;  // of TEXTOUT and CCSTRING
 constexpr int cutRange = 30;      // a word that is longer is cut in itself
 
@@ -96,24 +94,22 @@ void PrintBuffer::addToSubtotal(const QString& costCodes, double amount)
 
 void PrintBuffer::addSubtotalRows(int width)
 {
-    std::vector<std::pair<QString, QString>> sums;
+    if (m_subtotals.empty())
+        return;
+    addBlank();
     double total = 0;
+    const auto addRow = [&](const QString& label, double sum) {
+        const QStringList texts = descriptionRows(label, width);
+        // They stay together on a page, with the blank row that they go on from.
+        for (const QString& text : texts)
+            m_rows.push_back({.isContinuation = true, .text = text});
+        m_rows[m_rows.size() - static_cast<size_t>(texts.size())].amount = sum;
+    };
     for (const auto& [costCodes, sum] : m_subtotals) {
-        sums.emplace_back(costCodes, dnFormat(sum, amountMask));
+        addRow(costCodes, sum);
         total = roundedToCents(total + sum);
     }
-    sums.emplace_back("Total", dnFormat(total, amountMask));
-    // In a narrow column each sum stands below its string.
-    const bool isNarrow = std::any_of(sums.begin(), sums.end(), [width](const auto& one) {
-        return one.first.size() + one.second.size() >= width;
-    });
-    for (const auto& [label, sum] : sums) {
-        if (isNarrow)
-            m_rows.push_back({.text = label});
-        const QString before = isNarrow ? QString() : label;
-        m_rows.push_back(
-            {.text = before + sum.rightJustified(width - static_cast<int>(before.size()))});
-    }
+    addRow("Total", total);
 }
 
 void PrintBuffer::store(const Session& session) const

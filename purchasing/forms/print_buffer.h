@@ -43,8 +43,8 @@ public:
     void addDescribed(FormRow row, const QString& description, int width);
     void addBlank() { m_rows.emplace_back(); }
     void addToSubtotal(const QString& costCodes, double amount);
-    // A row for each cost code string in order, and their total, with the sums right-aligned in
-    // the width.
+    // A blank row, a row for each cost code string in order with its sum as the amount, and their
+    // total; nothing without sums. The strings are cut as descriptions are.
     void addSubtotalRows(int width);
 
     const std::vector<FormRow>& rows() const { return m_rows; }
