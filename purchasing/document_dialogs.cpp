@@ -13,6 +13,8 @@
 #include "inventory/item_codes.h"
 #include "inventory/item_vendor.h"
 #include "screens/field_keys.h"
+#include "screens/search/search_window.h"
+#include "screens/search_field.h"
 #include "screens/selectors/job_selector.h"
 #include "screens/selectors/look_up_field.h"
 #include "screens/small_dialog.h"
@@ -56,7 +58,10 @@ std::optional<QString> askText(const TextQuestion& question)
         dialog.addText("lblNotice", question.notice);
     QLineEdit* edit = textEdit(question.control, question.length, question.digitsOnly);
     edit->setText(question.initial);
-    dialog.addField(question.label, edit);
+    if (question.search)
+        dialog.addField(question.label, new SearchField(edit, question.search));
+    else
+        dialog.addField(question.label, edit);
     dialog.enterTakes(dialog.addButton("cmdOK", "&OK", [&] {
         if (!question.accepts || question.accepts(edit->text().trimmed().toUpper()))
             return dialog.accept();
@@ -69,6 +74,43 @@ std::optional<QString> askText(const TextQuestion& question)
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return edit->text().trimmed().toUpper();
+}
+
+qint32 searchRequisitions(const Session& session, int CONO, const QString& JOBNO)
+{
+    const QString found =
+        dnSearch({.DBPath = session.JobSitePath,
+                  .TableName = "REQLIST",
+                  .IndexList = "REQLIST",
+                  .WindowTitle = "Search Material Requisitions",
+                  .SearchTitle = "Requisitions for Co.: " + QString::number(CONO) +
+                                 " and Job: " + JOBNO.trimmed(),
+                  .FieldList = "REQNO|LDATE|INTEND",
+                  .TypeList = "N00000|C|C",
+                  .LengthList = "5|8|70",
+                  .HeadingList = "Req. #|Date|Intended Use",
+                  .WidthList = "900|1200|6000",
+                  .AlignList = "0|0|0",
+                  .keys = {{"CONO", CONO}, {"JOBNO", JOBNO}},
+                  .ScreenName = "frmVEXREQ05",
+                  .EndOfList = "  End of List",
+                  .ListIsEmpty = "  List is Empty",
+                  .hasLongNumbers = true});
+    OpenTable documents = openTable(session, "ZORVEX.mdb", "REQLIST");
+    return goToFound(documents.rows, found) ? intOf(documents.rows["REQTAG"]) : 0;
+}
+
+std::function<QString()> requisitionNumberSearch(const Session& session, int CONO,
+                                                 const QString& JOBNO)
+{
+    return [session, CONO, JOBNO]() -> QString {
+        const qint32 tag = searchRequisitions(session, CONO, JOBNO);
+        OpenTable documents = openTable(session, "ZORVEX.mdb", "REQLIST");
+        documents.rows.Index("REQTAG");
+        return tag != 0 && documents.rows.Seek("=", tag)
+                   ? shownRequisitionNumber(intOf(documents.rows["REQNO"]))
+                   : QString();
+    };
 }
 
 std::optional<StatusChoice> chooseStatus(const DocumentKind& kind, const StatusChoice& present)

@@ -22,10 +22,19 @@ struct TextQuestion
     QString notice = {};  // above the field
     QString initial = {};
     bool digitsOnly = false;
+    // Opened by "?", "/" or a button beside the field; gives the text chosen, blank for none.
+    std::function<QString()> search = {};
     // Asked at OK: false keeps the dialog (the user was told).
     std::function<bool(const QString& text)> accepts = {};
 };
 std::optional<QString> askText(const TextQuestion& question);
+
+// frmVEXREQ05, the requisitions of a company and job: the tag of the one that is chosen, 0 for
+// none.
+qint32 searchRequisitions(const Session& session, int CONO, const QString& JOBNO);
+// The same for a field that takes a requisition's number.
+std::function<QString()> requisitionNumberSearch(const Session& session, int CONO,
+                                                 const QString& JOBNO);
 
 // frmVEXREQ07 and frmVEXPO06.
 struct StatusChoice

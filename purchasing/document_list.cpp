@@ -136,6 +136,18 @@ void filter(BrowseSession& list, ListState& state)
     list.showTag(tag);
 }
 
+// Among the requisitions of the job of the one under the highlight, else of the user's last one.
+std::function<QString()> searchInJob(BrowseSession& list)
+{
+    if (list.list().goToCurrent()) {
+        const storage::Recordset& rows = list.list().rows();
+        return requisitionNumberSearch(list.session(), intOf(rows["CONO"]), textOf(rows["JOBNO"]));
+    }
+    UserSettings settings(list.session());
+    return requisitionNumberSearch(list.session(), settings["CONOPAIR"].toInt(),
+                                   settings["JOBNOPAIR"].toString());
+}
+
 void find(BrowseSession& list, ListState& state)
 {
     const DocumentKind& kind = kindOf(list);
@@ -159,6 +171,7 @@ void find(BrowseSession& list, ListState& state)
                  .label = kind.isOrder() ? "&PO Number:" : "&Requisition Number:",
                  .control = kind.isOrder() ? "txtPONO" : "txtREQNO",
                  .length = kind.isOrder() ? 16 : 5,
+                 .search = kind.isOrder() ? nullptr : searchInJob(list),
                  .accepts = isThere}))
         showDocument(list, state, tag);
 }

@@ -5,73 +5,26 @@
 #include "screens/date_field.h"
 #include "screens/field_keys.h"
 #include "screens/report/report_run.h"
+#include "screens/search_field.h"
 
 namespace {
 
 constexpr int longestShown = 60;  // characters
 
-// A text field with its look-up: "?" and "/" never stay.
-class SearchField : public QWidget
-{
-public:
-    SearchField(QLineEdit* edit, const QString& name, std::function<QString()> search)
-        : m_edit(edit), m_before(edit->text()), m_search(std::move(search))
-    {
-        edit->setObjectName(name);
-        auto* button = new QToolButton;
-        button->setObjectName(name + "Search");
-        button->setText("...");
-        button->setToolTip("Search (?)");
-        button->setAccessibleName("Search");
-        button->setFocusPolicy(Qt::NoFocus);
-        auto* row = new QHBoxLayout(this);
-        row->setContentsMargins(0, 0, 0, 0);
-        row->setSpacing(4);
-        row->addWidget(edit, 1);
-        row->addWidget(button);
-        row->addStretch();
-        setFocusProxy(edit);
-        onPressed(button, [this] { open(); });
-        connect(edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-            if (text.contains('?') || text.contains('/')) {
-                m_edit->setText(m_before);
-                runCommand([this] { open(); });
-            }
-            m_before = m_edit->text();
-        });
-    }
-
-private:
-    void open()
-    {
-        const QString found = m_search();
-        if (dnNotBlank(found))
-            m_edit->setText(found.trimmed());
-        m_before = m_edit->text();
-    }
-
-    QLineEdit* m_edit;
-    QString m_before;
-    std::function<QString()> m_search;
-};
-
 QWidget* textControl(const ReportField& field, ReportSelection& selection, const Session& session,
                      const std::function<void()>& changed)
 {
     auto* edit = new QLineEdit(selection[field.name]);
+    edit->setObjectName(field.name);
     edit->setMaximumWidth(edit->fontMetrics().averageCharWidth() * longestShown);
     setFieldKeys(*edit);
     QWidget* control = edit;
     if (field.search)
-        control = new SearchField(edit, field.name, [&selection, session, search = field.search] {
+        control = new SearchField(edit, [&selection, session, search = field.search] {
             return search(selection, session);
         });
-    // A "?" on its way to the look-up is no text; it is gone before anything is looked at.
     QObject::connect(edit, &QLineEdit::textChanged, edit,
-                     [&selection, name = QString(field.name), changed,
-                      hasSearch = bool(field.search)](const QString& text) {
-                         if (hasSearch && (text.contains('?') || text.contains('/')))
-                             return;
+                     [&selection, name = QString(field.name), changed](const QString& text) {
                          if (selection[name] == text)
                              return;
                          selection.set(name, text);

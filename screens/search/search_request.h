@@ -27,6 +27,11 @@ struct SearchRequest
     // Up to four, the first fields of every index named: the search stays inside this parent.
     std::vector<KeyField> keys = {};
     QString Instruction = {};  // in place of the first instruction; blank: the usual one
+    // Of a window that is a screen with a name and texts of its own.
+    QString ScreenName = "frmDNSearch";
+    QString EndOfList = " End of List";
+    QString ListIsEmpty = " No Items Found";
+    bool hasLongNumbers = false;  // else what is typed as a number is sought in 16 bits
 };
 
 struct SearchColumn

@@ -12,10 +12,11 @@ namespace {
 constexpr char boxTitle[] = "Error: dnSearch";
 constexpr int usualRowCount = 12;
 
-// Numbers are sought as whole numbers of 16 bits; what is no number is sought as 0.
+// What is no number is sought as 0.
+template <class Whole>
 storage::Value soughtNumber(const QString& text)
 {
-    using Limits = std::numeric_limits<qint16>;
+    using Limits = std::numeric_limits<Whole>;
     return std::clamp<qint64>(storage::Value(text).toLongLong(), Limits::min(), Limits::max());
 }
 
@@ -122,8 +123,11 @@ bool SearchSession::seek()
     std::vector<storage::Value> values;
     for (const KeyField& key : m_request.keys)
         values.push_back(key.key);
-    values.push_back(m_columns[0].isNumeric() ? soughtNumber(m_searchText)
-                                              : storage::Value(m_searchText));
+    if (!m_columns[0].isNumeric())
+        values.push_back(m_searchText);
+    else
+        values.push_back(m_request.hasLongNumbers ? soughtNumber<qint32>(m_searchText)
+                                                  : soughtNumber<qint16>(m_searchText));
     storage::Recordset& rows = m_list.rows();
     return rows.seekKeys(">=", values) && dnInbounds(rows, m_request.keys);
 }

@@ -62,7 +62,7 @@ frmDNSearch::frmDNSearch(SearchSession& search, QWidget* parent)
       m_columnKeys(plainLabel("lblColumnKeys", {})),
       m_text(plainLabel("lblSearch", " "))
 {
-    setObjectName("frmDNSearch");
+    setObjectName(search.request().ScreenName);
     setProperty(helpPageProperty, "search");
     setWindowTitle(search.request().WindowTitle);
     auto* layout = new QVBoxLayout(this);
@@ -74,7 +74,7 @@ frmDNSearch::frmDNSearch(SearchSession& search, QWidget* parent)
     layout->addWidget(m_grid, 1);
     layout->addLayout(buttons());
 
-    m_grid->setEndTexts(" End of List", " No Items Found");
+    m_grid->setEndTexts(search.request().EndOfList, search.request().ListIsEmpty);
     m_grid->setActsOnClick(false);
     QTableView* rows = m_grid->view();
     rows->setMinimumHeight(leastRowCount * rows->verticalHeader()->defaultSectionSize() +
