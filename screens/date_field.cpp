@@ -66,7 +66,7 @@ void DateField::setDate(const QString& date)
 
 void DateField::take()
 {
-    if (isValid() && text() != date())
+    if (!m_keepsTyped && isValid() && text() != date())
         setText(date());
     if (text() == m_taken)
         return;

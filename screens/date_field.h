@@ -1,6 +1,7 @@
 // An entry field of a date, shown as month/day/year. '=' is today, '+' and '-' the next and the day
 // before; a calendar opens by the button, F4 or Alt+Down. Leaving the field writes a date that was
-// typed in another form, such as 3/7/26 or 030726, as it is shown; what is no date stays as typed.
+// typed in another form, such as 3/7/26 or 030726, as it is shown, unless the field keeps what is
+// typed; what is no date stays as typed.
 #pragma once
 
 #include <QLineEdit>
@@ -23,6 +24,9 @@ public:
     // Eight digits, year first, for comparing; eight blanks when it is no date.
     QString dateKey() const;
 
+    // Leaving the field rewrites nothing.
+    void setKeepsTyped(bool keeps) { m_keepsTyped = keeps; }
+
     void openCalendar();
 
 Q_SIGNALS:
@@ -39,4 +43,5 @@ private:
 
     QToolButton* m_button;
     QString m_taken;
+    bool m_keepsTyped = false;
 };

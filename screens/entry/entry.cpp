@@ -237,7 +237,7 @@ QString Entry::refusalOf(int at)
     if (isAdding() || m_texts[at] != m_textsBefore[at]) {
         if (checked.tidy)
             m_texts[at] = checked.tidy(m_texts[at]);
-        if (checked.kind == Kind::Date && !dnIsBlank(dnFixDate(m_texts[at])))
+        if (checked.kind == Kind::Date && !checked.keepsTyped && !dnIsBlank(dnFixDate(m_texts[at])))
             m_texts[at] = dnFixDate(m_texts[at]);
     }
     const QString refusal = checked.check ? checked.check(*this) : QString();

@@ -82,8 +82,11 @@ QWidget* newControl(const EntryField& field, QWidget* parent)
     switch (field.kind) {
         case Kind::Text:
             return new QLineEdit(parent);
-        case Kind::Date:
-            return new DateField(field.name, parent);
+        case Kind::Date: {
+            auto* date = new DateField(field.name, parent);
+            date->setKeepsTyped(field.keepsTyped);
+            return date;
+        }
         case Kind::Memo: {
             auto* memo = new QPlainTextEdit(parent);
             memo->setTabChangesFocus(true);

@@ -63,7 +63,8 @@ struct EntryField
     // does to other fields.
     std::function<void(Entry&)> left = {};
     bool isReadOnly = false;
-    QString hint = {};  // the tool tip
+    bool keepsTyped = false;  // a date is not put in the form in which others are shown
+    QString hint = {};        // the tool tip
     // Asked anew after each change: false leaves the control dead. None: it lives.
     std::function<bool(const Entry&)> isLive = {};
 };
