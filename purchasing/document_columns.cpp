@@ -11,9 +11,10 @@ QString vendorText(const BrowseSession& list, storage::Recordset& rows, schema::
     if (tag == 0)
         return field == schema::FieldName("Name") ? QString(" <none>") : QString();
     storage::Recordset& vendors = list.beside("VENDORS");
-    // Two columns ask for one vendor, and often rows one after the other.
-    const bool isThere =
-        !vendors.BOF() && !vendors.EOF() && !vendors.NoMatch() && intOf(vendors["VENTAG"]) == tag;
+    // Sought once for the row: the name stands beside the number. In each row anew, because another
+    // user may have changed the vendor.
+    const bool isThere = field == schema::FieldName("Name") && !vendors.BOF() && !vendors.EOF() &&
+                         !vendors.NoMatch() && intOf(vendors["VENTAG"]) == tag;
     return isThere || vendors.Seek("=", tag) ? trimmedTextOf(vendors[field]) : QString("?????");
 }
 
@@ -52,17 +53,6 @@ BrowseColumn statusColumn()
             .shows = [](const BrowseSession&, storage::Recordset& rows) { return statusOf(rows); }};
 }
 
-BrowseColumn number(schema::FieldName field, int length, const QString& heading, int width,
-                    const QString& format)
-{
-    return {.field = field,
-            .length = length,
-            .heading = heading,
-            .width = width,
-            .format = format,
-            .alignment = Qt::AlignRight};
-}
-
 }  // namespace
 
 QString statusOf(const storage::Recordset& rows)
@@ -93,10 +83,10 @@ std::vector<BrowseColumn> requisitionColumns(const State& state)
                  [](const BrowseSession&, storage::Recordset& rows) {
                      return shownRequisitionNumber(intOf(rows["REQNO"]));
                  }},
-            number("CONO", 2, "Co", 400, "##"),
+            numberColumn("CONO", 2, "Co", 400, "##"),
             {.field = "JOBNO", .length = 8, .heading = "Job No.", .width = 1000},
             {.field = "FDATE", .length = 10, .heading = "Date", .width = 1300},
-            number("AMOUNT", 13, "Amount", 1400, "##,###,###.00"),
+            numberColumn("AMOUNT", 13, "Amount", 1400, "##,###,###.00"),
             statusColumn(),
             vendorColumn("VENNO", "Vendor #", 10, 1000),
             vendorColumn("Name", "Vendor Name", 40, 2900),
@@ -114,13 +104,13 @@ std::vector<BrowseColumn> orderColumns(const State& state)
 {
     return {markColumn(state),
             statusColumn(),
-            number("REVNO", 2, "Rev", 450, "#0"),
+            numberColumn("REVNO", 2, "Rev", 450, "#0"),
             {.field = "PONO", .length = 16, .heading = "PO No.", .width = 1700},
-            number("CONO", 2, "Co", 400, "##"),
+            numberColumn("CONO", 2, "Co", 400, "##"),
             {.field = "JOBNO", .length = 8, .heading = "Job No.", .width = 1000},
             {.field = "FDATE", .length = 10, .heading = "Date", .width = 1300},
             {.field = "CMRNO", .length = 10, .heading = "Cust. Req. #", .width = 1100},
-            number("AMOUNT", 14, "Amount", 1450, "###,###,###.00"),
+            numberColumn("AMOUNT", 14, "Amount", 1450, "###,###,###.00"),
             {.field = "VEXDLTAG",
              .length = 5,
              .heading = "D/L #",

@@ -6,13 +6,11 @@
 #include "core/messages.h"
 #include "core/number_format.h"
 #include "core/site_settings.h"
-#include "core/stamps.h"
-#include "core/system.h"
 #include "core/text.h"
-#include "core/user_settings.h"
 #include "cost/document_fields.h"
 #include "cost/job_checks.h"
 #include "purchasing/document_head_checks.h"
+#include "purchasing/document_head_rules.h"
 #include "purchasing/document_numbers.h"
 #include "purchasing/header_changes.h"
 #include "purchasing/vendor_panel.h"
@@ -22,201 +20,11 @@ using Kind = EntryField::Kind;
 
 namespace {
 
-constexpr schema::FieldName overridden = "OVERRIDEPOAF";
-
 EntryField shown(const char* name, const QString& caption,
                  std::function<QString(const Entry&)> shows)
 {
     return {.kind = Kind::Shown, .name = name, .caption = caption, .shows = std::move(shows)};
 }
-
-// ---- the number of the order, which follows other fields
-NumberSource sourceOf(const Entry& entry)
-{
-    return orderNumberSource(entry.session().JobSitePath, entry.isTicked(overridden));
-}
-
-// A requisition's own number is that of its first order; an order's keeps its suffix.
-QString formattedNumber(const Entry& entry, const DocumentKind& kind, const JobNoFormat& format)
-{
-    int suffix = kind.isOrder() ? 0 : 1;
-    QString type = kind.isOrder() ? QString() : entry["REQTYPE"].left(1);
-    auto REQNO = static_cast<qint32>(kind.isOrder() ? 0 : entry.number("REQNO"));
-    if (kind.isOrder() && !entry.isAdding() && entry.goToRecord()) {
-        REQNO = intOf(entry.rows()["REQNO"]);
-        suffix = intOf(entry.rows()["POSUFFIX"]);
-        type = trimmedTextOf(entry.rows()["REQTYPE"]);
-    }
-    return autoFormattedNumber(storedJobOf(entry, format), type, REQNO, suffix);
-}
-
-// What the head is now, and what it was.
-RequisitionHead headOf(const Entry& entry, const JobNoFormat& format)
-{
-    return {.CONO = companyOf(entry),
-            .JOBNO = storedJobOf(entry, format),
-            .REQTYPE = entry["REQTYPE"].left(1),
-            .REQNO = static_cast<qint32>(entry.number("REQNO"))};
-}
-
-RequisitionHead headOf(const storage::Recordset& rows)
-{
-    return {.CONO = intOf(rows["CONO"]),
-            .JOBNO = textOf(rows["JOBNO"]),
-            .REQTYPE = trimmedTextOf(rows["REQTYPE"]),
-            .REQNO = intOf(rows["REQNO"])};
-}
-
-class HeadRules : public EntryRules
-{
-public:
-    HeadRules(const DocumentKind& kind, const JobNoFormat& format) : m_kind(kind), m_format(format)
-    {
-    }
-
-    bool begin(Entry& entry) override
-    {
-        m_change.reset();
-        if (entry.isAdding()) {
-            beginNew(entry);
-            return true;
-        }
-        const storage::Recordset& rows = entry.rows();
-        const Session& session = entry.session();
-        const QString reference =
-            head::docReferenceText(session, intOf(rows["BRQWOTAG"]), intOf(rows["BRQROTAG"]));
-        const auto vendor = head::vendorAt(session, intOf(rows["VENTAG"]));
-        entry.setText("JOBNO", trimmedTextOf(rows["JOBNO"]));
-        entry.setNamed(head::docReference, reference);
-        if (vendor)
-            entry.setNamed(head::vendor, vendor->VENNO);
-        return true;
-    }
-
-    Step beforeWrite(Entry& entry) override
-    {
-        if (entry.isAdding())
-            saveCounter(entry);
-        if (m_kind.isOrder() || entry.isAdding() || !entry.goToRecord())
-            return Step::Write;
-        const Session& session = entry.session();
-        const qint32 tag = intOf(entry.rows()["REQTAG"]);
-        const QString stored = trimmedTextOf(entry.rows()["PONO"]);
-        const QString typed = entry["PONO"].trimmed();
-        m_change = headChange(session, tag, headOf(entry.rows()), headOf(entry, m_format),
-                              typed == stored ? QString() : typed);
-        if (!m_change)
-            return Step::Write;
-        if (const QString taken = takenNumber(session, *m_change); !taken.isEmpty()) {
-            showCritical("Cannot Update", "Duplicate PO Number Detected.\nThe PO Number: " + taken +
-                                              "\nHas Already Been Used.");
-            return Step::Stay;
-        }
-        return askYesNo("PO Number Changed", headChangeText(*m_change)) ? Step::Write : Step::Stay;
-    }
-
-    void complete(const Entry& entry, storage::Recordset& rows) override
-    {
-        const Session& session = entry.session();
-        const auto vendor = head::vendorOf(session, entry.named(head::vendor));
-        const head::DocReference reference =
-            head::docReferenceOf(session, entry.named(head::docReference));
-        rows["JOBNO"] = storedJobOf(entry, m_format);
-        rows["PONO"] = entry["PONO"].trimmed();
-        rows["VENTAG"] = vendor ? vendor->VENTAG : 0;
-        rows["LDATE"] = dnDateKey(entry["FDATE"]);
-        rows["REIMB"] = entry["REIMB"].trimmed().toUpper();
-        rows["BRQWOTAG"] = reference.BRQWOTAG;
-        rows["BRQROTAG"] = reference.BRQROTAG;
-        if (entry.isAdding())
-            completeNew(rows);
-    }
-
-    void written(Entry& entry, storage::Recordset& rows) override
-    {
-        const QString bookmark = rows.Bookmark();
-        const Session& session = entry.session();
-        const bool isNew = entry.isAdding();
-        isNew ? zorStampAdd(rows, bookmark, session.UserName)
-              : zorStampEdit(rows, bookmark, session.UserName);
-        rows.Bookmark(bookmark);
-        OpenTable settings = openTable(session, "ZORUSER.mdb", "VEXSETTINGS");
-        zorSaveUserSetting(settings.rows, session.SiteTag, "CONOPAIR", companyOf(entry));
-        zorSaveUserSetting(settings.rows, session.SiteTag, "JOBNOPAIR",
-                           storedJobOf(entry, m_format));
-        if (m_change)
-            applyHeadChange(session, *std::exchange(m_change, {}));
-    }
-
-    bool beforeDelete(const Session& session, storage::Recordset& rows) override
-    {
-        const qint32 tag = intOf(rows[m_kind.tag]);
-        const bool hasDetail = m_kind.isOrder() || hasLines(session, m_kind, tag) ||
-                               !relatedOrders(session, tag).empty();
-        if (hasDetail &&
-            !askYesNo("Confirm Delete.", m_kind.isOrder() ? "Are You Sure?" : "Are You Sure? "))
-            return false;
-        m_kind.isOrder() ? deleteOfOrder(session, tag) : deleteOfRequisition(session, tag);
-        return true;
-    }
-
-private:
-    void beginNew(Entry& entry) const
-    {
-        const Session& session = entry.session();
-        OpenTable settings = openTable(session, "ZORUSER.mdb", "VEXSETTINGS");
-        const auto remembered = [&](const char* name) {
-            return zorGetUserSetting(settings.rows, session.SiteTag, name);
-        };
-        if (const int CONO = remembered("CONOPAIR").toInt(); CONO != 0)
-            entry.setText("CONO", QString::number(CONO));
-        entry.setText("JOBNO", remembered("JOBNOPAIR").toString().trimmed());
-        entry.setText("FDATE", System::current().now().toString("MM/dd/yyyy"));
-        head::takeJobDefaults(entry, m_format, true);
-        if (!m_kind.isOrder())
-            if (const qint32 number = nextRequisitionNumber(session.JobSitePath); number != 0)
-                entry.setText("REQNO", shownRequisitionNumber(number));
-        const NumberSource source = sourceOf(entry);
-        if (source == NumberSource::AutoFormat)
-            entry.setText("PONO", formattedNumber(entry, m_kind, m_format));
-        else if (source == NumberSource::Counter)
-            entry.setText("PONO", nextOrderNumber(session.JobSitePath));
-    }
-
-    void completeNew(storage::Recordset& rows) const
-    {
-        rows["Status"] = "Open";
-        rows["AMOUNT"] = 0;
-        if (!m_kind.isOrder())
-            return;
-        for (const schema::FieldName field : {schema::FieldName("REQTAG"),
-                                              {"REQNO"},
-                                              {"POSUFFIX"},
-                                              {"REVNO"},
-                                              {"VEXDLTAG"},
-                                              {"PONTAG"}})
-            rows[field] = 0;
-        rows["REQTYPE"] = "";
-    }
-
-    // Whatever the user has typed, the number after it is offered next.
-    void saveCounter(const Entry& entry) const
-    {
-        const QString& site = entry.session().JobSitePath;
-        if (!m_kind.isOrder()) {
-            saveRequisitionCounter(site, static_cast<qint32>(entry.number("REQNO")));
-        } else if (sourceOf(entry) == NumberSource::Counter &&
-                   !saveOrderCounter(site, entry["PONO"])) {
-            showCritical("Empty Table",
-                         "Purchase Order Number Counter Table is Empty.\n"
-                         "Counter has Not Been Setup.\nCannot Update PO Number Counter Properly.");
-        }
-    }
-
-    const DocumentKind& m_kind;
-    JobNoFormat m_format;
-    std::optional<HeadChange> m_change;
-};
 
 // ---- fields
 // A new number follows what it is made of; that of a stored requisition, too, which Update then
@@ -224,8 +32,8 @@ private:
 std::function<void(Entry&)> renumbers(const DocumentKind& kind, const JobNoFormat& format)
 {
     return [&kind, format](Entry& entry) {
-        if (!kind.isOrder() && sourceOf(entry) == NumberSource::AutoFormat)
-            entry.setText("PONO", formattedNumber(entry, kind, format));
+        if (!kind.isOrder() && head::numberSourceOf(entry) == NumberSource::AutoFormat)
+            entry.setText("PONO", head::formattedNumber(entry, kind, format));
     };
 }
 
@@ -252,21 +60,22 @@ std::vector<EntryField> numberFields(const DocumentKind& kind, const JobNoFormat
 
 EntryField orderNumberField(const DocumentKind& kind)
 {
-    return {
-        .name = "txtPONO",
-        .field = "PONO",
-        .caption = "PO Number:",
-        .keys = {.upperCase = true},
-        .check = head::checkOrderNumber(kind),
-        .isCheckedOnlyWhenLeft = !kind.isOrder(),
-        .isLive = [](const Entry& entry) { return sourceOf(entry) != NumberSource::AutoFormat; }};
+    return {.name = "txtPONO",
+            .field = "PONO",
+            .caption = "PO Number:",
+            .keys = {.upperCase = true},
+            .check = head::checkOrderNumber(kind),
+            .isCheckedOnlyWhenLeft = !kind.isOrder(),
+            .isLive = [](const Entry& entry) {
+                return head::numberSourceOf(entry) != NumberSource::AutoFormat;
+            }};
 }
 
 EntryField overrideField(const DocumentKind& kind, const JobNoFormat& format)
 {
     return {.kind = Kind::Box,
             .name = "ckbPOAFOverRide",
-            .field = overridden,
+            .field = head::overridden,
             .caption = "O&verride PO #   Auto Format ",
             .left = renumbers(kind, format)};
 }
@@ -312,20 +121,16 @@ std::vector<EntryField> vendorFields()
             shown("lblVENADDRESS", "", text(&head::Vendor::address))};
 }
 
+// What need not be given is kept as it is typed.
 EntryField dateField(const char* name, schema::FieldName field, const QString& caption,
                      bool mayBeBlank, const QString& refusal)
 {
-    EntryField date{.kind = Kind::Date,
-                    .name = name,
-                    .field = field,
-                    .caption = caption,
-                    .check = head::checkDate(field, mayBeBlank, refusal)};
-    if (!mayBeBlank)
-        date.tidy = [](const QString& text) {
-            const QString fixed = dnFixDate(text);
-            return dnIsBlank(fixed) ? text : fixed;
-        };
-    return date;
+    return {.kind = Kind::Date,
+            .name = name,
+            .field = field,
+            .caption = caption,
+            .check = head::checkDate(field, mayBeBlank, refusal),
+            .keepsTyped = mayBeBlank};
 }
 
 std::vector<EntryField> dateFields(const DocumentKind& kind)
@@ -439,7 +244,7 @@ DataSpec frmVEXREQ02(const Session& session, const DocumentKind& kind, const Job
         .sections = {sectionOf(kind, format, session)},
         .tag = {.field = kind.tagName(), .hasSiteNumber = true},
         .lock = kind.lock,
-        .rules = std::make_shared<HeadRules>(kind, format),
+        .rules = std::make_shared<head::Rules>(kind, format),
         .deleteQuestion =
             [session, &kind](storage::Recordset& rows) {
                 const QString number = kind.isOrder()

@@ -12,6 +12,7 @@ namespace {
 
 constexpr int shownDigits = 5;
 constexpr int suffixDigits = 2;
+constexpr qint32 lastRequisitionNumber = 99'999;
 
 OpenTable openCounters(const QString& jobSitePath)
 {
@@ -70,7 +71,7 @@ qint32 nextRequisitionNumber(const QString& jobSitePath)
         showCritical("Empty Table",
                      "Cannot Obtain Next Valid Requisition Number.\nCounter has Not Been Setup.\n"
                      "Requisition Number Counter Table is Empty.");
-    return number;
+    return number > lastRequisitionNumber ? 0 : number;
 }
 
 QString nextOrderNumber(const QString& jobSitePath)

@@ -24,7 +24,8 @@ QString autoFormattedNumber(const QString& JOBNO, const QString& REQTYPE, qint32
 QString shownRequisitionNumber(qint32 REQNO);
 
 // What the counters offer; 0 and blank after a box where their table is empty. An order's has five
-// digits, and a counter that was never used offers 1.
+// digits, and a counter that was never used offers 1. After 99999 no requisition number is offered,
+// 0 without a box: the user types the one from which to go on.
 qint32 nextRequisitionNumber(const QString& jobSitePath);
 QString nextOrderNumber(const QString& jobSitePath);
 

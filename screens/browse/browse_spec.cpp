@@ -2,6 +2,17 @@
 
 #include "screens/browse/browse_session.h"
 
+BrowseColumn numberColumn(schema::FieldName field, int length, const QString& heading, int width,
+                          const QString& format)
+{
+    return {.field = field,
+            .length = length,
+            .heading = heading,
+            .width = width,
+            .format = format,
+            .alignment = Qt::AlignRight};
+}
+
 std::vector<EntryField> entryFieldsOf(const std::vector<BrowseColumn>& columns)
 {
     std::vector<EntryField> fields;

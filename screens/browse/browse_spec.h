@@ -41,6 +41,10 @@ struct BrowseColumn
     QString hint = {};  // of the entry field
 };
 
+// A number that is only shown: at the right, in the mask.
+BrowseColumn numberColumn(schema::FieldName field, int length, const QString& heading, int width,
+                          const QString& format);
+
 // Whose rows these are: the user chooses it above the list. None: the whole table.
 struct BrowseParent
 {

@@ -107,8 +107,27 @@ TEST_F(DocumentScreens, ANewRequisitionStartsFromCounterAndDefaults)
     EXPECT_TRUE(added.update());
     EXPECT_EQ(rows("REQLIST", {"REQTAG", "REQNO", "CONO", "JOBNO", "VENTAG", "LDATE", "Required",
                                "REIMB", "ADDNAME"}),
-              QStringList{"1000001|30|1|    4711|40|20260307|04/01/2026|Y|pat"});
+              QStringList{"1000001|30|1|    4711|40|20260307|4/1/26|Y|pat"});
     EXPECT_EQ(rows("VEXCOUNTERS", {"REQNO"}), QStringList{"31"}) << "a higher one counts on";
+}
+
+TEST_F(DocumentScreens, AfterTheLastNumberOfFiveDigitsTheUserTypesTheNext)
+{
+    site.setFirst("ZORVEX.mdb", "VEXCOUNTERS", "REQNO", 99999);
+    for (const char* number : {"99999", "00000"}) {
+        DataSession added = head(requisitions, "A");
+        ASSERT_TRUE(added.open());
+        Entry& entry = added.entry();
+        EXPECT_EQ(entry["REQNO"].toInt(), QString(number).toInt());
+        entry.setText("CONO", "1");
+        if (entry["REQNO"].toInt() == 0) {
+            refuse(added, "Requisition Number is Zero. This Item is Numeric only, up to 5 digits.");
+            type(entry, "txtREQNO", "5");
+        }
+        EXPECT_TRUE(added.update());
+    }
+    EXPECT_EQ(rows("REQLIST", {"REQNO"}), (QStringList{"99999", "5"}));
+    EXPECT_EQ(rows("VEXCOUNTERS", {"REQNO"}), QStringList{"6"});
 }
 
 TEST_F(DocumentScreens, AJobWithoutDefaultsIsTold)
@@ -428,6 +447,20 @@ TEST_F(DocumentScreens, AFilterThatFindsNothingTurnsItselfOff)
     again.open();
     EXPECT_EQ(again.spec().status(again), "Filter: Company/Job Number");
     EXPECT_EQ(again.currentTag(), 10);
+}
+
+TEST_F(DocumentScreens, AVendorRenamedByAnotherUserIsShownAtTheNextPainting)
+{
+    addRequisition(0);
+    BrowseSession list(frmVEXREQ01(), session);
+    list.open();
+    EXPECT_EQ(list.list().lines()[0].cells.mid(7, 2), (QStringList{"V1", "Harbor"}));
+    site.setFirst("ZORVEX.mdb", "VENDORS", "Name", "Harbour");
+    list.list().repaint();
+    EXPECT_EQ(list.list().lines()[0].cells.mid(7, 2), (QStringList{"V1", "Harbour"}));
+    site.emptyTable("ZORVEX.mdb", "VENDORS");
+    list.list().repaint();
+    EXPECT_EQ(list.list().lines()[0].cells.mid(7, 2), (QStringList{"?????", "?????"}));
 }
 
 TEST_F(DocumentScreens, AVendorIsAddedFromTheHead)
