@@ -1,26 +1,9 @@
 // ledger_poster FOLDER FIRST COUNT: posts so many adjustments of 1 to item 1, tags from FIRST on.
 // Another program beside that of the test.
 #include <QCoreApplication>
-#include <cstdio>
 
-#include "core/messages.h"
 #include "inventory/ledger_posting.h"
-
-namespace {
-
-class Complaints : public Messages
-{
-public:
-    Complaints() { install(this); }
-    ~Complaints() override { install(nullptr); }
-    Answer show(const Message& message) override
-    {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return Answer::Ok;
-    }
-};
-
-}  // namespace
+#include "tests/support/complaints.h"
 
 int main(int argc, char** argv)
 {

@@ -2,26 +2,9 @@
 // once after so many steps, as if the power had gone. Another program beside that of the test.
 #include <QCoreApplication>
 #include <csignal>
-#include <cstdio>
 
-#include "core/messages.h"
 #include "purchasing/order_creation.h"
-
-namespace {
-
-class Complaints : public Messages
-{
-public:
-    Complaints() { install(this); }
-    ~Complaints() override { install(nullptr); }
-    Answer show(const Message& message) override
-    {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return Answer::Ok;
-    }
-};
-
-}  // namespace
+#include "tests/support/complaints.h"
 
 int main(int argc, char** argv)
 {
