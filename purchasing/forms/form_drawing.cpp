@@ -100,15 +100,21 @@ void FormPages::drawLetterhead()
     }
     const int room = m_left + m_width - titleWidth - gap - left;
     int y = top;
-    const auto write = [&](const QString& text, const PageFont& font) {
-        m_pages.style.font = fittingFont(text, font, room, 6);
+    const auto write = [&](const QString& text, const PageFont& font, int height) {
+        m_pages.style.font = font;
         m_pages.setPosition(left, y);
-        m_pages.writeText(text.left(fittingLength(text, m_pages.style.font, room)));
-        y += lineHeight(font);
+        m_pages.writeText(text.left(fittingLength(text, font, room)));
+        y += height;
     };
-    write(m_document.companyName, {FontFamily::TimesNewRoman, true, 16});
+    const PageFont large{FontFamily::TimesNewRoman, true, 16};
+    const PageFont small{FontFamily::Arial, false, 8};
+    PageFont fitting = small;  // the same for all lines
     for (const QString& line : m_document.companyLines)
-        write(line, {FontFamily::Arial, false, 8});
+        fitting = fittingFont(line, fitting, room, 6);
+    write(m_document.companyName, fittingFont(m_document.companyName, large, room, 6),
+          lineHeight(large));
+    for (const QString& line : m_document.companyLines)
+        write(line, fitting, lineHeight(small));
 }
 
 void FormPages::drawTitle()

@@ -129,8 +129,12 @@ std::vector<FormColumn> statusColumns()
 {
     std::vector<FormColumn> columns = {itemColumn("PO ITM", 680)};
     int number = 0;
-    for (const char* heading : {"ORDERED", "RECEIVED", "RETURNED", "BK ORDERED", "BALANCE"})
-        columns.push_back(furtherColumn(heading, 1180, TextAlignment::Right, number++));
+    for (const auto& [heading, width] : {std::pair("ORDERED", 1020),
+                                         {"RECEIVED", 1020},
+                                         {"RETURNED", 1020},
+                                         {"BK ORDERED", 1180},
+                                         {"BALANCE", 1020}})
+        columns.push_back(furtherColumn(heading, width, TextAlignment::Right, number++));
     columns.push_back(unitColumn());
     columns.push_back(descriptionColumn());
     return columns;
