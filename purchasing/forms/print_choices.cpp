@@ -115,6 +115,8 @@ bool choosePrint(const Session& session, const PrintChoice& choice, qint32 POTAG
     if (!texts.isEmpty())
         dialog.enterTakes(dialog.addClosingButton("cmdPrint", "&Print", QDialog::Accepted));
     dialog.escTakes(dialog.addClosingButton("cmdCancel", "&Cancel"));
+    if (!texts.isEmpty())
+        list->setFocus();
     if (dialog.exec() != QDialog::Accepted)
         return false;
     QList<int> chosen;

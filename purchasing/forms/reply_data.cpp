@@ -63,12 +63,13 @@ std::optional<ReplyData> askReplyData(const Session& session, int CONO, const QS
     SmallDialog dialog("frmVEXREQ06", "RFQ - Reply To Information");
     dialog.addValue("Company/Job Number:", "lblPair",
                     QString::number(CONO) + '/' + JOBNO.trimmed());
-    const auto* to = addLine(dialog, "&Reply To:", "txtREPLYTO", 30, before.to);
+    auto* to = addLine(dialog, "&Reply To:", "txtREPLYTO", 30, before.to);
     const auto* by = addLine(dialog, "Repl&y By:", "txtREPLYBY", 10, before.by);
     const auto* phone = addLine(dialog, "P&hone:", "mebREPLYPHONE", 14, maskedPhone(before.phone));
     const auto* fax = addLine(dialog, "&Fax:", "mebREPLYFAX", 14, maskedPhone(before.fax));
     dialog.enterTakes(dialog.addClosingButton("cmdPrint", "&Print", QDialog::Accepted));
     dialog.escTakes(dialog.addClosingButton("cmdCancel", "&Cancel"));
+    to->setFocus();
     if (dialog.exec() != QDialog::Accepted)
         return {};
     const ReplyData data{.to = to->text().trimmed(),

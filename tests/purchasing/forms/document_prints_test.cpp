@@ -326,6 +326,7 @@ TEST_F(DocumentPrints, AQuotationAsksForTheReplyKeepsItAndIsSent)
 
     whenModalOpens([](QDialog& dialog) {
         EXPECT_EQ(dialog.objectName(), "frmVEXREQ06");
+        EXPECT_EQ(dialog.focusWidget()->objectName(), "txtREPLYTO");
         type(dialog, "txtREPLYTO", "Jo Diaz");
         press(dialog, "cmdPrint");
     });
@@ -396,8 +397,8 @@ TEST_F(DocumentPrints, ABillingStatusIsPrintedOfTheTickedInvoicesAndOfNoneNothin
     }
     whenModalOpens([](QDialog& dialog) {
         EXPECT_EQ(dialog.objectName(), "frmVEXPAY04");
-        control<QListWidget>(dialog, "lstChoices").item(0)->setCheckState(Qt::Checked);
-        press(dialog, "cmdPrint");
+        for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Return})  // by keyboard alone
+            QTest::keyClick(dialog.focusWidget(), key);
     });
     const PageDocument pages = printBy(frmVEXPO04(orderTag), 5);
     EXPECT_TRUE(has(pages, 1, "A1") && has(pages, 1, "4.00") && has(pages, 1, "6.00"));
