@@ -28,7 +28,7 @@ frmVEXMAIN::frmVEXMAIN(std::function<void()> endProcess)
 {
     setObjectName("frmVEXMAIN");
     setWindowTitle(m_session.MainTitle);
-    resize(1120, 680);
+    resize(1200, 680);  // the widest lists fit, and the window a display of 1280
     setCentralWidget(m_area);
     buildMenus();
     buildStatusBar();
