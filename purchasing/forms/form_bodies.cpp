@@ -124,7 +124,9 @@ FormBody orderedLines(const FormSource& source, const DocumentKind& kind)
 
 bool hasNotice(const FormSource& source)
 {
-    return source.settings.hasNotice && source.document.amount >= source.settings.noticeLimit;
+    // An amount is a sum, and may lie a hair off what is printed.
+    return source.settings.hasNotice &&
+           roundedToCents(source.document.amount) >= roundedToCents(source.settings.noticeLimit);
 }
 
 void addNotice(FormBody& body, std::span<const char* const> lines)

@@ -12,9 +12,9 @@ namespace {
 
 constexpr char amountMask[] = "###,###,###.00";
 
-bool hasDigits(const QString& text)
+QString phoneOf(const storage::Field& field)
 {
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+    return printedPhone(textOf(field));
 }
 
 QString joined(const QString& before, const QString& separator, const QString& after)
@@ -38,9 +38,9 @@ void setLetterhead(FormDocument& document, const Session& session)
     document.logo = logoPath(textOf(rows["LOGOFILENAME"]));
     const QString stateAndZip = joined(trimmedTextOf(rows["State"]), " ", zipOf(rows));
     QString phones;
-    if (const QString voice = trimmedTextOf(rows["VOICE"]); hasDigits(voice))
+    if (const QString voice = phoneOf(rows["VOICE"]); !voice.isEmpty())
         phones = "Voice: " + voice;
-    if (const QString fax = trimmedTextOf(rows["FAX"]); hasDigits(fax))
+    if (const QString fax = phoneOf(rows["FAX"]); !fax.isEmpty())
         phones = joined(phones, "    ", "Fax: " + fax);
     for (const QString& line : {trimmedTextOf(rows["ADDRESS1"]), trimmedTextOf(rows["ADDRESS2"]),
                                 joined(trimmedTextOf(rows["CITY"]), ", ", stateAndZip), phones,
@@ -63,8 +63,8 @@ void setVendor(FormDocument& document, const Session& session, qint32 VENTAG)
     document.city = trimmedTextOf(rows["CITY"]);
     document.state = trimmedTextOf(rows["State"]);
     document.zip = zipOf(rows);
-    document.phone = trimmedTextOf(rows["PHONE"]);
-    document.fax = trimmedTextOf(rows["FAX"]);
+    document.phone = phoneOf(rows["PHONE"]);
+    document.fax = phoneOf(rows["FAX"]);
 }
 
 // A record of the equipment's file, where the site has one.
@@ -140,6 +140,13 @@ QString requisitionNumberOf(const Session& session, qint32 REQTAG)
 }
 
 }  // namespace
+
+QString printedPhone(const QString& text)
+{
+    const bool hasDigits =
+        std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); });
+    return hasDigits ? text.trimmed() : QString();
+}
 
 FormSettings formSettings(const Session& session)
 {

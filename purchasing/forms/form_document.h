@@ -80,6 +80,8 @@ struct FormDocument
 // Of the requisition or the order on whose record `rows` stands. Fails as the store does.
 FormDocument requisitionDocument(const Session& session, const storage::Recordset& rows);
 FormDocument orderDocument(const Session& session, const storage::Recordset& rows);
+// A phone number; nothing where it was never typed and is kept as its mask alone.
+QString printedPhone(const QString& text);
 // The letterhead alone.
 FormDocument blankDocument(const Session& session, int CONO);
 

@@ -95,8 +95,8 @@ std::vector<Quotation> quotations(const Session& session, qint32 REQTAG)
         const ReplyData& reply = replies[pair];
         document.replyTo = reply.to;
         document.replyBy = reply.by;
-        document.replyPhone = reply.phone;
-        document.replyFax = reply.fax;
+        document.replyPhone = printedPhone(reply.phone);
+        document.replyFax = printedPhone(reply.fax);
         document.total.clear();
         found.push_back({tag, document});
     }

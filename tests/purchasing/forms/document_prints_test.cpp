@@ -160,7 +160,9 @@ TEST_F(DocumentPrints, TheHeadTellsTheOrderAndItsSettingsChangeIt)
          {"Vexley Builders", "Reno, NV 89501-0142", "03/01/2026", "PO-1", "4711", "V100",
           "Valley Pipe", "00042", "Yes", "Pat Poe", "APPROVED BY CLIENT", "Printed On: 03/07/2026"})
         EXPECT_TRUE(has(pages, 1, text)) << text;
+    // Phones that were never typed.
     EXPECT_FALSE(linesOf(pages).join('\n').contains("Voice"));
+    EXPECT_FALSE(linesOf(pages).join('\n').contains("(   )"));
     EXPECT_FALSE(has(pages, 1, "Heading 2"));
 
     set("VEXCOL2TXT", "Heading 2");
@@ -335,6 +337,7 @@ TEST_F(DocumentPrints, AQuotationAsksForTheReplyKeepsItAndIsSent)
         EXPECT_TRUE(has(pages, 1, text)) << text;
     for (const char* text : {"COST CODES", "REQUISITION NUMBER", "30.00", "30.00 "})
         EXPECT_FALSE(has(pages, 1, text)) << text;
+    EXPECT_FALSE(linesOf(pages).join('\n').contains("(   )"));
     EXPECT_EQ(status(), "RFQ Sent");
     EXPECT_EQ(site.first("ZORVEX.mdb", "JOB_NO_DEFAULTS", "REPLYTO").toString(), "Jo Diaz");
 }

@@ -29,7 +29,11 @@ protected:
                      {"PLUS4", "0142"},
                      {"VOICE", "(   )    -    "}});
         site.addRow("ZORVEX.mdb", "VENDORS",
-                    {{"VENTAG", 5}, {"VENNO", "V100"}, {"Name", "Valley Pipe"}});
+                    {{"VENTAG", 5},
+                     {"VENNO", "V100"},
+                     {"Name", "Valley Pipe"},
+                     {"PHONE", "(   )    -    "},
+                     {"FAX", "(   )    -    "}});
         site.addRow("ZORVEX.mdb", "JOB_NO_DEFAULTS",
                     {{"JNDTAG", 1},
                      {"CONO", 1},

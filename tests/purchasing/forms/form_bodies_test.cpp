@@ -97,6 +97,8 @@ TEST_F(FormBodies, TheNoticeStandsFromTheLimitOn)
         EXPECT_EQ(textsIn(lines()).size(), rows) << limit;
     }
     set("POLIMIT", 500.0);
+    setOrder("AMOUNT", 499.99999999999994);  // as sums of cents come out
+    EXPECT_EQ(textsIn(lines()).size(), 7);
     EXPECT_EQ(textsIn(lines())[2], "SF Notice:");
     EXPECT_EQ(
         textsIn(body(inventoryBody)).mid(2),
