@@ -12,7 +12,8 @@ bool drawAddendum(ReportRun& run, const QString& heading, const QString& documen
     const int bottom = pages.pageHeight() - pages.margins.bottom - lineHeight(body);
     int y = bottom;
     QString shown = text;
-    for (const QString& line : wrappedLines(shown.remove('\r'), body, width)) {
+    for (const QString& line :
+         wrappedLines(shown.remove('\r').replace('\t', "    "), body, width)) {
         if (!run.proceed())
             return false;
         if (y >= bottom) {

@@ -64,7 +64,7 @@ QStringList descriptionRows(const QString& description, int width)
     width = std::clamp(width, 1, longestText);
     QString text = description;
     QStringList rows;
-    for (const QString& line : text.remove('\r').split('\n')) {
+    for (const QString& line : text.remove('\r').replace('\t', ' ').split('\n')) {
         QString piece = withoutBlanksBehind(withoutBlanksBefore(line));
         while (piece.size() > width) {
             const qsizetype cut = cutOf(piece, width);

@@ -24,6 +24,7 @@ TEST(DescriptionRows, ADescriptionIsPartedAtItsLineEndsAndCutToTheColumn)
          "a\r\n\r\nb\r\n\r\n",
          20,
          {"a", "", "b"}},
+        {"a tab is a blank", "\ta\tb", 20, {"a b"}},
         {"exactly the width", "1234567890", 10, {"1234567890"}},
         {"a blank behind the width", "1234567890 abc", 10, {"1234567890", "abc"}},
         {"at the last blank", "bolt and nut", 10, {"bolt and", "nut"}},
