@@ -5,48 +5,17 @@
 #include "inventory/item_search.h"
 #include "inventory/items.h"
 #include "inventory/part_number_rules.h"
-#include "screens/browse/browse_session.h"
-#include "screens/data/data_session.h"
-#include "tests/support/fixed_system.h"
-#include "tests/support/scripted_messages.h"
-#include "tests/support/table_rows.h"
-#include "tests/support/window_helpers.h"
+#include "tests/inventory/item_site.h"
 
 namespace {
 
-class Catalog : public testing::Test
+class Catalog : public ItemSite
 {
 protected:
     Catalog()
     {
-        session.JobSitePath = site.siteFolder();
-        session.UserSettingsPath = site.userFolder();
-        session.UserName = TestInstallation::userName;
-        session.SiteTag = 1;
-        session.UserTag = 1;
-        site.addRow("ZORNET.mdb", "USERACCESSITEMS",
-                    {{"UAITAG", 1}, {"UAICODE", "INC02"}, {"Desc", "Edit"}});
-        for (const char* table : {"INVENTORY", "INVCATALOG", "INVPNMASTER", "ILCLIST",
-                                  "SERIESCODES", "SUBCATEGORIES", "VEXTAGS"})
-            site.emptyTable("ZORVEX.mdb", table);
+        site.emptyTable("ZORVEX.mdb", "VEXTAGS");
         add("VEXTAGS", {{"ISNTAG", 100}, {"ICNTAG", 200}, {"SERIESTAG", 50}, {"SUBCATTAG", 60}});
-        add("ILCLIST", {{"ILCTAG", 1}, {"ILCCODE", "01"}, {"ILCNAME", "Yard"}});
-        addGroup(1, 10, 20);
-    }
-    void add(const char* table, TestInstallation::NewRow values) const
-    {
-        site.addRow("ZORVEX.mdb", table, values);
-    }
-    void addGroup(int ILCTAG, int SERIESTAG, int SUBCATTAG) const
-    {
-        add("SERIESCODES", {{"ILCTAG", ILCTAG},
-                            {"SERIESTAG", SERIESTAG},
-                            {"SERIESCODE", "100"},
-                            {"SERIESNAME", "Pipe"}});
-        add("SUBCATEGORIES", {{"SERIESTAG", SERIESTAG},
-                              {"SUBCATTAG", SUBCATTAG},
-                              {"SUBCATCODE", "STL"},
-                              {"SUBCATNAME", "Steel"}});
     }
     void addItem(int ISNTAG, const QString& PARTNO, int ICNTAG = 0, int SERIESTAG = 10) const
     {
@@ -88,10 +57,6 @@ protected:
         open.rows.Update();
     }
     QString number(bool commit) const { return zorVEXGetNewICNumber(site.siteFolder(), commit); }
-    QStringList rows(const char* table, const QStringList& fields) const
-    {
-        return rowsOf(site, "ZORVEX.mdb", table, fields);
-    }
     ItemCopies copies(int VENTAG = 0)
     {
         return {.jobSitePath = site.siteFolder(),
@@ -103,10 +68,6 @@ protected:
                 .proceed = [] { return true; }};
     }
 
-    FixedSystem system;
-    TestInstallation site;
-    ScriptedMessages user;
-    Session session;
     QStringList told;
 };
 
@@ -222,17 +183,11 @@ TEST_F(Catalog, APartIsAddedUnderANumberOfItsOwn)
     DataSession part(frmVEXINVCAT02({}), session, {.mode = "A"});
     ASSERT_TRUE(part.open());
     EXPECT_EQ(part.caption(), "Inventory Catalog Item - Add");
-    user.expect("Cannot Update",
-                "Errors Detected: \n\nSeries Code is Empty.\nCategory Name is Empty.\n"
-                "SubSeries Code is Blank\nSubcategory Name is Empty.\nPart Number is Empty.");
-    EXPECT_FALSE(part.update());
+    refuse(part,
+           "Series Code is Empty.\nCategory Name is Empty.\nSubSeries Code is Blank\n"
+           "Subcategory Name is Empty.\nPart Number is Empty.");
     EXPECT_EQ(number(false), "000-000-001") << "a refusal draws no number";
-    Entry& entry = part.entry();
-    entry.setNamed("txtSERIESCODE", "100");
-    entry.setNamed("txtSERIESNAME", "Pipe");
-    entry.setNamed("txtSUBCATCODE", "STL");
-    entry.setNamed("txtSUBCATNAME", "Steel");
-    entry.setNamed("txtPARTNO", "p-1");
+    fill(part.entry(), "p-1");
     EXPECT_TRUE(part.update());
     EXPECT_EQ(rows("INVCATALOG", {"ICNTAG", "ICNUMBER", "SERIESTAG", "PARTNO", "TAGGED"}),
               QStringList{"200|000-000-001|11|P-1| "});
@@ -241,17 +196,9 @@ TEST_F(Catalog, APartIsAddedUnderANumberOfItsOwn)
 
     BrowseSession list(frmVEXINVCAT01(), session);
     list.open();
-    user.expect("Confirm Clone",
-                "Clone This Item?\n\nNote: Only the Quantities Maximum and Minimum Will be Cloned."
-                "\nEdit the On Order and Available Quantities as Needed for New Item.",
-                Answer::Yes);
-    for (const BrowseCommand& command : list.spec().commands)
-        if (command.name == "cmdClone")
-            list.run(command);
+    cloneCurrent(list);
     EXPECT_EQ(rows("INVCATALOG", {"ICNTAG", "ICNUMBER", "PARTNO"}).at(1), "201|000-000-002|COPY");
-    for (const BrowseCommand& command : list.spec().commands)
-        if (command.name == "cmdTagAll")
-            list.run(command);
+    run(list, "cmdTagAll");
     EXPECT_EQ(rows("INVCATALOG", {"TAGGED"}), (QStringList{"Y", "Y"}));
 }
 

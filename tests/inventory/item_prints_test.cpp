@@ -4,33 +4,20 @@
 #include "inventory/issue_summary.h"
 #include "inventory/transaction_history.h"
 #include "screens/report/report_run.h"
+#include "tests/inventory/item_site.h"
 #include "tests/support/page_text.h"
-#include "tests/support/scripted_messages.h"
-#include "tests/support/test_installation.h"
 
 namespace {
 
-class ItemPrints : public testing::Test
+class ItemPrints : public ItemSite
 {
 protected:
     ItemPrints()
     {
-        session.JobSitePath = site.siteFolder();
-        session.UserSettingsPath = site.userFolder();
-        session.SiteTag = 1;
-        for (const char* table : {"INVENTORY", "ILCLIST", "SERIESCODES", "BINLIST", "VENDORS"})
-            site.emptyTable("ZORVEX.mdb", table);
-        add("ILCLIST", {{"ILCTAG", 1}, {"ILCCODE", "01"}, {"ILCNAME", "Yard"}});
-        add("SERIESCODES",
-            {{"ILCTAG", 1}, {"SERIESTAG", 10}, {"SERIESCODE", "100"}, {"SERIESNAME", "Pipe"}});
         addItem(5, "P-2", 1, 10, 0);
         addItem(6, "P-1", 1, 10, 77);
         addItem(7, "Q-1", 1, 11, 0);
         addItem(8, "P-9", 2, 10, 0);
-    }
-    void add(const char* table, TestInstallation::NewRow values) const
-    {
-        site.addRow("ZORVEX.mdb", table, values);
     }
     void addItem(int ISNTAG, const char* PARTNO, int ILCTAG, int SERIESTAG, int VENTAG) const
     {
@@ -55,16 +42,12 @@ protected:
             lines += linesOn(run.pages, page);
         return lines.join('\n');
     }
-
-    TestInstallation site;
-    ScriptedMessages user;
-    Session session;
 };
 
 TEST_F(ItemPrints, ListsShowTheBranchUnderTheHeadsOfTheirOrder)
 {
     const QString bySeries = print(frmVEXINVP04());
-    EXPECT_TRUE(bySeries.contains("Branch Code: 01 - Yard"));
+    EXPECT_TRUE(bySeries.contains("Branch Code: 1 - Yard"));
     EXPECT_LT(bySeries.indexOf("Series Code: 100 - Pipe"), bySeries.indexOf("P-1"));
     EXPECT_LT(bySeries.indexOf("P-1"), bySeries.indexOf("P-2"));
     EXPECT_LT(bySeries.indexOf("P-2"), bySeries.indexOf("Series Code: ??????"));
@@ -101,7 +84,7 @@ TEST_F(ItemPrints, IssueSummaryTellsItsPeriodsAndRefusesWhatIsNone)
     active.emplace_back("ckbVEXISROPT1", "-1");
     const QString page = print(frmVEXINVISR(), active);
     EXPECT_TRUE(page.contains("Issue Summary Report - Only Items with Activity for Period"));
-    EXPECT_TRUE(page.contains("for Branch Code: 01 - Yard"));
+    EXPECT_TRUE(page.contains("for Branch Code: 1 - Yard"));
     EXPECT_TRUE(page.contains("Period: 03/01/2026 - 03/15/2026"));
     EXPECT_TRUE(page.contains("Last Month: 02/01/2026 - 02/28/2026"));
     EXPECT_TRUE(page.contains("P-2") && page.contains("4.00"));

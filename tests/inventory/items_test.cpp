@@ -4,46 +4,13 @@
 #include "core/user_settings.h"
 #include "inventory/item_search.h"
 #include "inventory/item_vendor.h"
-#include "screens/browse/browse_session.h"
-#include "screens/data/data_session.h"
-#include "screens/desktop.h"
-#include "tests/support/fixed_system.h"
-#include "tests/support/scripted_messages.h"
-#include "tests/support/table_rows.h"
-#include "tests/support/window_helpers.h"
+#include "tests/inventory/item_site.h"
 
 namespace {
 
-class Items : public testing::Test
+class Items : public ItemSite
 {
 protected:
-    Items()
-    {
-        session.JobSitePath = site.siteFolder();
-        session.UserSettingsPath = site.userFolder();
-        session.UserName = TestInstallation::userName;
-        session.SiteTag = 1;
-        session.UserTag = 1;
-        site.addRow("ZORNET.mdb", "USERACCESSITEMS",
-                    {{"UAITAG", 1}, {"UAICODE", "INV02"}, {"Desc", "Edit"}});
-        for (const char* table : {"INVENTORY", "INVPNMASTER", "ILCLIST", "SERIESCODES",
-                                  "SUBCATEGORIES", "BINLIST", "VENDORS", "RQILIST"})
-            site.emptyTable("ZORVEX.mdb", table);
-        site.emptyTable("ZORUSER.mdb", "VEXINVLASTUPDATE");
-        for (const int branch : {1, 2})
-            add("ILCLIST",
-                {{"ILCTAG", branch}, {"ILCCODE", QString::number(branch)}, {"ILCNAME", "Yard"}});
-        add("SERIESCODES",
-            {{"ILCTAG", 1}, {"SERIESTAG", 10}, {"SERIESCODE", "100"}, {"SERIESNAME", "Pipe"}});
-        add("SUBCATEGORIES",
-            {{"SERIESTAG", 10}, {"SUBCATTAG", 20}, {"SUBCATCODE", "STL"}, {"SUBCATNAME", "Steel"}});
-        add("BINLIST", {{"ILCTAG", 1}, {"BINTAG", 30}, {"BINNO", "A1"}, {"BINNAME", "Row A"}});
-        add("VENDORS", {{"VENTAG", 40}, {"VENNO", "V1"}, {"Name", "Harbor"}});
-    }
-    void add(const char* table, TestInstallation::NewRow values) const
-    {
-        site.addRow("ZORVEX.mdb", table, values);
-    }
     void addItem(int ISNTAG, const QString& PARTNO, int ILCTAG = 1, int SERIESTAG = 10,
                  int SUBCATTAG = 20) const
     {
@@ -65,33 +32,6 @@ protected:
                             .parent = {{"ILCTAG", 1}},
                             .tag = ISNTAG});
     }
-    static void fill(Entry& entry, const QString& PARTNO)
-    {
-        entry.setNamed("txtSERIESCODE", "100");
-        entry.setNamed("txtSERIESNAME", "Pipe");
-        entry.setNamed("txtSUBCATCODE", "stl");
-        entry.setNamed("txtSUBCATNAME", "Steel");
-        entry.setNamed("txtPARTNO", PARTNO);
-    }
-    static void type(Entry& entry, const QString& control, const QString& text)
-    {
-        const int at = entry.indexOf(control);
-        entry.setText(at, text);
-        entry.leave(at);
-    }
-    void refuse(DataSession& in, const QString& text)
-    {
-        user.expect("Cannot Update", "Errors Detected: \n\n" + text);
-        EXPECT_FALSE(in.update());
-        EXPECT_TRUE(user.allCame()) << text.toStdString();
-    }
-    static void run(BrowseSession& list, const QString& name)
-    {
-        for (const BrowseCommand& command : list.spec().commands)
-            if (command.name == name)
-                return list.run(command);
-        ADD_FAILURE() << name.toStdString();
-    }
     static QStringList partNumbers(BrowseSession& list)
     {
         QStringList numbers;
@@ -100,11 +40,6 @@ protected:
                 numbers.append(line.cells[1]);
         return numbers;
     }
-
-    FixedSystem system;
-    TestInstallation site;
-    ScriptedMessages user;
-    Session session;
 };
 
 TEST_F(Items, AddAnItemInItsCodesWithItsPartNumber)
@@ -127,12 +62,10 @@ TEST_F(Items, AddAnItemInItsCodesWithItsPartNumber)
     added.entry().setNamed("txtBINNO", "");
     added.entry().setNamed("txtDESC", "Gate valve\n2 inch");
     EXPECT_TRUE(added.update());
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY",
-                     {"ILCTAG", "SERIESTAG", "SUBCATTAG", "PARTNO", "SHORTDESC", "VENTAG", "BINTAG",
-                      "AVAILABLE", "TAGGED"}),
+    EXPECT_EQ(rows("INVENTORY", {"ILCTAG", "SERIESTAG", "SUBCATTAG", "PARTNO", "SHORTDESC",
+                                 "VENTAG", "BINTAG", "AVAILABLE", "TAGGED"}),
               QStringList{"1|10|20|P-1|Gate valve 2 inch|40|0|0| "});
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVPNMASTER", {"ILCTAG", "PARTNO", "FDATE"}),
-              QStringList{"1|P-1| <Current>"});
+    EXPECT_EQ(rows("INVPNMASTER", {"ILCTAG", "PARTNO", "FDATE"}), QStringList{"1|P-1| <Current>"});
 
     DataSession next = screen("A");
     ASSERT_TRUE(next.open());
@@ -162,7 +95,7 @@ TEST_F(Items, PricesFollowEachOther)
     type(entry, "txtRETAIL", "1333.33");
     EXPECT_EQ(entry.named("txtMARKUP"), "33.33");
     EXPECT_TRUE(added.update()) << "the markup shows less than the retail price says";
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"RETAIL"}), QStringList{"1333.33"});
+    EXPECT_EQ(rows("INVENTORY", {"RETAIL"}), QStringList{"1333.33"});
 }
 
 TEST_F(Items, SaveAndStayGoesOnWithTheItemAndItsFormerNumber)
@@ -178,7 +111,7 @@ TEST_F(Items, SaveAndStayGoesOnWithTheItemAndItsFormerNumber)
     EXPECT_FALSE(edited.update(true));
     EXPECT_EQ(edited.mode(), "E");
     EXPECT_TRUE(edited.update()) << "unchanged now: nothing is asked";
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVPNMASTER", {"PARTNO", "FDATE"}),
+    EXPECT_EQ(rows("INVPNMASTER", {"PARTNO", "FDATE"}),
               (QStringList{"OLD|03/07/2026", "NEW| <Current>"}));
 }
 
@@ -220,8 +153,8 @@ TEST_F(Items, AnItemAddedForALineTakesItsTextsAndNamesItself)
     EXPECT_FALSE(added.entry().isChanged()) << "Esc asks nothing";
     fill(added.entry(), "p-1");
     EXPECT_TRUE(added.update());
-    const QString tag = rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"ISNTAG"}).first();
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "RQILIST", {"ISNTAG"}), QStringList{tag});
+    const QString tag = rows("INVENTORY", {"ISNTAG"}).first();
+    EXPECT_EQ(rows("RQILIST", {"ISNTAG"}), QStringList{tag});
     EXPECT_EQ(QString::number(result()), tag);
     DataSession left = open();
     ASSERT_TRUE(left.open());
@@ -248,9 +181,7 @@ TEST_F(Items, ThePresentNumberIsPutAmongTheSupersededOnes)
                 "OK to Add Old Part Number: P-1\nto Master Part Number Table as a Superseded Part "
                 "Number?\n\nIf Change was a Minor Edit Change Then Do Not Add, Click NO.",
                 Answer::Yes);
-    for (const DataCommand& command : edited.spec().commands)
-        if (command.name == "cmdSSAdd")
-            edited.run(command);
+    run(edited, "cmdSSAdd");
     EXPECT_EQ(shown("lblSSPARTNO"), "P-0\nP-1");
     EXPECT_EQ(shown("lblFDATE").section('\n', 0, 0), "03/01/2026");
 }
@@ -279,10 +210,9 @@ TEST_F(Items, BrowseNarrowsToSeriesAndSubcategoryAndStaysOnItsItem)
     run(list, "cmdTagAll");
     run(list, "cmdFilter");
     EXPECT_EQ(list.currentTag(), 6);
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"ISNTAG", "TAGGED"}),
-              (QStringList{"5| ", "6|Y", "7| ", "8| "}));
+    EXPECT_EQ(rows("INVENTORY", {"ISNTAG", "TAGGED"}), (QStringList{"5| ", "6|Y", "7| ", "8| "}));
     run(list, "cmdTAGEM");
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"TAGGED"}).at(1), " ");
+    EXPECT_EQ(rows("INVENTORY", {"TAGGED"}).at(1), " ");
     list.close();
 
     BrowseSession again(frmVEXINV01(), session);
@@ -299,11 +229,7 @@ TEST_F(Items, CloneAndPostedVendor)
     BrowseSession list(frmVEXINV01(), session);
     list.open();
     list.setParent({{"ILCTAG", 1}});
-    user.expect("Confirm Clone",
-                "Clone This Item?\n\nNote: Only the Quantities Maximum and Minimum Will be Cloned."
-                "\nEdit the On Order and Available Quantities as Needed for New Item.",
-                Answer::Yes);
-    run(list, "cmdClone");
+    cloneCurrent(list);
     EXPECT_EQ(partNumbers(list).first(), "COPY");
     user.expect("Cannot Post.", "Nothing to Do (There are No Tagged Items).");
     run(list, "cmdPostVendor");
@@ -349,7 +275,7 @@ TEST_F(Items, SupersededNumbersHaveADateAndStandOnce)
     list.entry().setText("PARTNO", "P-1");
     list.entry().setText("FDATE", "<Current>");
     EXPECT_TRUE(list.update());
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVPNMASTER", {"PARTNO", "FDATE", "LDATE"}),
+    EXPECT_EQ(rows("INVPNMASTER", {"PARTNO", "FDATE", "LDATE"}),
               (QStringList{"P-0|03/01/2026|20260301", "P-1| <Current>|          "}));
     EXPECT_EQ(list.list().lines()[0].cells[0], "P-1") << "the present number is the first";
     list.add();
@@ -370,15 +296,9 @@ TEST_F(Items, MoveToABranchThatLacksTheirCodes)
     DataSession moved(frmVEXINV10(), session,
                       {.mode = "E", .index = "INVISNTAG", .keys = {{"ISNTAG", 5}}});
     ASSERT_TRUE(moved.open());
-    const auto command = [&](const QString& name) {
-        for (const DataCommand& one : moved.spec().commands)
-            if (one.name == name)
-                return moved.run(one);
-        ADD_FAILURE() << name.toStdString();
-    };
     const auto refuseCommand = [&](const QString& name, const QString& text) {
         user.expect("Cannot Update", text);
-        command(name);
+        run(moved, name);
         EXPECT_TRUE(user.allCame()) << text.toStdString();
     };
     Entry& entry = moved.entry();
@@ -395,20 +315,19 @@ TEST_F(Items, MoveToABranchThatLacksTheirCodes)
                   "Use the Add Button Instead to add this Series Code.");
     refuseCommand("cmdSERIESAdd", "Series Code Description is Empty.");
     type(entry, "txtNEWSERIESNAME", "Pipe");
-    command("cmdSERIESAdd");
+    run(moved, "cmdSERIESAdd");
     refuseCommand("cmdSERIESAdd", "Series Code: 100 Already Exists for Branch Code");
     type(entry, "txtNEWSUBCATCODE", "STL");
     type(entry, "txtNEWSUBCATNAME", "Steel");
-    command("cmdSUBCATAdd");
+    run(moved, "cmdSUBCATAdd");
     type(entry, "txtNEWBINNO", "A1");
     refuse(moved, "Part Number Already Exists for New Branch Code: 2");
     type(entry, "txtNEWPARTNO", "P-9");
     user.expect("Changes Made", "Changes Made: Inventory Item Branch Code Changed to: 2");
     EXPECT_TRUE(moved.update());
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "INVENTORY", {"ISNTAG", "ILCTAG", "BINTAG", "PARTNO"}),
+    EXPECT_EQ(rows("INVENTORY", {"ISNTAG", "ILCTAG", "BINTAG", "PARTNO"}),
               (QStringList{"5|2|32|P-9", "6|2|31|P-1"}));
-    EXPECT_EQ(rowsOf(site, "ZORVEX.mdb", "SERIESCODES", {"ILCTAG", "SERIESCODE"}),
-              (QStringList{"1|100", "2|100"}));
+    EXPECT_EQ(rows("SERIESCODES", {"ILCTAG", "SERIESCODE"}), (QStringList{"1|100", "2|100"}));
 }
 
 }  // namespace
