@@ -118,7 +118,8 @@ void codeLeft(Entry& entry, const NewCode& code)
         entry.setNamed(code.nameField, row->name);
 }
 
-// The codes of the same spelling, as far as the new branch has them.
+// The codes of the same spelling, as far as the new branch has them; those that are typed already
+// take the names that they have there.
 void branchLeft(Entry& entry)
 {
     if (!entry.goToRecord())
@@ -126,7 +127,11 @@ void branchLeft(Entry& entry)
     for (const NewCode* code : {&newSeries, &newSubcategory, &newBin}) {
         const auto old = codeRowAt(siteOf(entry), code->codes, intOf(entry.rows()[code->itemTag]));
         const auto owner = ownerIn(entry, *code);
-        if (!old || !owner || dnNotBlank(entry.named(code->codeField)))
+        if (dnNotBlank(entry.named(code->codeField))) {
+            codeLeft(entry, *code);
+            continue;
+        }
+        if (!old || !owner)
             continue;
         if (const auto same = codeRow(siteOf(entry), code->codes, *owner, old->code)) {
             entry.setNamed(code->codeField, same->code);
@@ -151,6 +156,8 @@ QString refusalOf(const Entry& entry, const NewCode& code, bool adds)
     const QString typed = entry.named(code.codeField).trimmed();
     if (typed.isEmpty())
         return code.word + " is Empty.";
+    if (&code != &newBin && dnIsBlank(entry.named(code.nameField)))
+        return code.word + " Description is Empty.";
     const bool isThere = rowIn(entry, code).has_value();
     if (adds && isThere)
         return code.word + ": " + typed + " Already Exists for " + code.ownerWord;
@@ -159,9 +166,7 @@ QString refusalOf(const Entry& entry, const NewCode& code, bool adds)
                code.ownerWord + ": " +
                (isSubcategory ? entry.named(newSeries.codeField).trimmed() : branch->code) +
                "\nUse the Add Button Instead to add this " + code.word + '.';
-    return &code != &newBin && dnIsBlank(entry.named(code.nameField))
-               ? code.word + " Description is Empty."
-               : QString();
+    return {};
 }
 
 DataCommand codeCommand(const QString& name, const QString& caption, const NewCode& code, bool adds)

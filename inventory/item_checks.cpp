@@ -139,8 +139,10 @@ void subcategoryLeft(Entry& entry)
         entry.setNamed(subcatName, subcategory->name);
 }
 
-void markupLeft(Entry& entry)
+void pricesLeft(Entry& entry)
 {
+    if (entry.number("MARKUP") < 0)
+        return;
     entry.setText("RETAIL", priceText(retailOf(entry.number("WHOLESALE"), entry.number("MARKUP"))));
 }
 

@@ -43,7 +43,8 @@ QString checkBin(const Entry& entry);
 
 void seriesLeft(Entry& entry);
 void subcategoryLeft(Entry& entry);
-void markupLeft(Entry& entry);
+// Wholesale price and markup give the retail price.
+void pricesLeft(Entry& entry);
 void retailLeft(Entry& entry);
 
 QString searchSeries(const Entry& entry);

@@ -130,14 +130,14 @@ bool mayEdit(const BrowseSession& list)
     return dnOK2Access(kindOf(list).editRight, list.session().UserName, true);
 }
 
-// An item of another branch takes the list there.
+// An item of another branch takes the list there, and the choice above it; that of a branch that is
+// gone is empty.
 void goToBranch(BrowseSession& list, qint32 branch)
 {
-    if (!codeRowAt(siteOf(list), branchCodes, branch))
-        return list.setParent({});
     OpenTable settings = openSettings(list.session());
     zorSaveUserSetting(settings.rows, list.session().SiteTag, "ILCTAG", branch);
     browse(list, {.ILCTAG = branch});
+    list.setParentValid(codeRowAt(siteOf(list), branchCodes, branch).has_value());
 }
 
 void search(BrowseSession& list)
@@ -151,6 +151,8 @@ void search(BrowseSession& list)
     const qint32 tag = intOf(items.rows[kind.tag]);
     if (kind.isOfBranch && intOf(items.rows["ILCTAG"]) != branchOf(list))
         goToBranch(list, intOf(items.rows["ILCTAG"]));
+    else if (!list.showTag(tag))
+        browse(list, {.ILCTAG = branchOf(list)});  // the filter has left it out
     list.showTag(tag);
 }
 
@@ -270,9 +272,10 @@ void openBranchChange(BrowseSession& list)
                    {.mode = "E", .index = "INVISNTAG", .keys = {{"ISNTAG", list.currentTag()}}});
 }
 
-void notReady(BrowseSession&)
+void openAdjustments(BrowseSession& list)
 {
-    dnNotReady();
+    if (mayEdit(list))
+        dnNotReady();
 }
 
 // ---- where the user was
@@ -384,7 +387,7 @@ std::vector<BrowseCommand> commands(const ItemKind& kind)
                    .needsRecord = true});
     all.push_back({.name = "cmdADJUSTMENTS",
                    .caption = "Ad&justments",
-                   .run = notReady,
+                   .run = openAdjustments,
                    .key = Qt::Key_J,
                    .needsRecord = true});
     all.push_back({.name = "cmdAdd2Catalog",
@@ -436,6 +439,9 @@ BrowseSpec inventoryItems(const ItemFilter& filter)
     spec.besides.push_back({"ZORVEX.mdb", "BINLIST", "BINTAG"});
     spec.besides.push_back({"ZORVEX.mdb", "INVCATALOG", "ICNTAG"});
     spec.parentChosen = [isFirst, filter](BrowseSession& list) {
+        // The filter was that of the branch before.
+        if (list.list().source().index != list.spec().index)
+            browse(list, {.ILCTAG = branchOf(list)});
         if (filter.level > 0 && filter.ILCTAG == branchOf(list) && std::exchange(*isFirst, false))
             browse(list, filter);
         else

@@ -8,6 +8,7 @@
 #include "core/stamps.h"
 #include "core/storage/file_paths.h"
 #include "core/tags.h"
+#include "core/text.h"
 #include "core/write_batch.h"
 #include "inventory/catalog_rules.h"
 
@@ -182,7 +183,11 @@ qint32 cloneItem(const ItemKind& kind, const QString& jobSitePath, qint32 tag,
         values.push_back(rows[field].value());
     const qint32 copy =
         dnGetNewTag(jobSitePath, QString::fromLatin1(kind.tag.text()), siteFile, "VEXTAGS", 0);
+    if (copy == 0)
+        return 0;  // the user was told
     const QString number = kind.isOfBranch ? QString() : zorVEXGetNewICNumber(jobSitePath, true);
+    if (!kind.isOfBranch && dnIsBlank(number))
+        return 0;
     rows.AddNew();
     for (size_t i = 0; i < fields.size(); ++i)
         rows[fields[i]] = values[i];

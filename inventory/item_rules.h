@@ -28,7 +28,7 @@ QString itemDetailText(const QString& jobSitePath, qint32 ISNTAG);
 
 // Adds a copy of the item under the part number "COPY", without quantities, past all tests of
 // doubles; a copy in the catalog takes an I/C number of its own. Gives its tag; 0 where there is no
-// such item.
+// such item, or after a box where tag or number could not be drawn.
 qint32 cloneItem(const ItemKind& kind, const QString& jobSitePath, qint32 tag,
                  const QString& userName);
 

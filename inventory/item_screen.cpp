@@ -1,4 +1,6 @@
 // The screen of one item, of a branch or of the catalog.
+#include <array>
+
 #include "core/keyed_access.h"
 #include "core/locators.h"
 #include "core/number_format.h"
@@ -94,6 +96,8 @@ public:
                 beginFrom(entry, m_caller);
             return true;
         }
+        for (Quantity& quantity : m_quantities)
+            quantity.before = entry[quantity.field];
         m_oldPartNumber = trimmedTextOf(rows["PARTNO"]);
         showCodes(entry, intOf(rows["SERIESTAG"]), intOf(rows["SUBCATTAG"]), intOf(rows["VENTAG"]));
         if (m_kind.isOfBranch)
@@ -105,6 +109,7 @@ public:
     // The number is drawn once, also where the store refuses the item at first.
     Step beforeWrite(Entry& entry) override
     {
+        takeQuantities(entry);
         if (m_kind.isOfBranch || !entry.isAdding() || !entry.given("ICNUMBER").isNull())
             return Step::Write;
         const QString number = zorVEXGetNewICNumber(siteOf(entry), true);
@@ -127,6 +132,9 @@ public:
         rows["SHORTDESC"] = shortDescription(entry["Desc"]);
         if (entry.isAdding())
             beginStock(m_kind, rows);
+        if (m_kind.isOfBranch)
+            for (const Quantity& quantity : m_quantities)
+                rows[quantity.field] = quantity.value;
     }
 
     void written(Entry& entry, storage::Recordset& rows) override
@@ -146,6 +154,24 @@ public:
     }
 
 private:
+    // What may be typed of what the ledger keeps.
+    struct Quantity
+    {
+        schema::FieldName field;
+        QString before = {};
+        storage::Value value = {};
+    };
+    // One that nobody typed stays as postings have left it while the screen stood open.
+    void takeQuantities(const Entry& entry)
+    {
+        const bool isStored = m_kind.isOfBranch && !entry.isAdding() && entry.goToRecord();
+        for (Quantity& quantity : m_quantities) {
+            if (isStored && entry[quantity.field] == quantity.before)
+                quantity.value = entry.rows()[quantity.field].value();
+            else
+                quantity.value = entry.number(quantity.field);
+        }
+    }
     void beginNew(Entry& entry) const
     {
         const auto last = [&](schema::FieldName field) {
@@ -180,6 +206,7 @@ private:
     ItemFilter m_filter;
     ItemCaller m_caller;
     QString m_oldPartNumber;
+    std::array<Quantity, 2> m_quantities{{{"ONORDER"}, {"AVAILABLE"}}};
 };
 
 // ---- commands
@@ -318,8 +345,9 @@ std::vector<EntryField> priceFields()
          .search = item::searchVendor},
         shown("lblVENNAME", "", [](const Entry& entry) { return nameText(item::vendorIn(entry)); }),
     };
+    fields[0].left = item::pricesLeft;
     fields[1].check = item::checkMarkup;
-    fields[1].left = item::markupLeft;
+    fields[1].left = item::pricesLeft;
     fields[2].check = item::checkRetail;
     fields[2].left = item::retailLeft;
     return fields;

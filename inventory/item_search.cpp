@@ -50,10 +50,11 @@ const ItemColumn itemColumns[] = {
     {"FDATE", "Superseded Date", 10, 2000},
 };
 
-// frmVEXINVSEARCH1: the way that the user chooses, 0 for none.
-int chooseWay()
+// The way that the user chooses, 0 for none.
+int chooseWay(const ItemKind& kind)
 {
-    SmallDialog dialog("frmVEXINVSEARCH1", "Select an Inventory Search Option");
+    SmallDialog dialog(kind.isOfBranch ? "frmVEXINVSEARCH1" : "frmVEXINVCATSEARCH1",
+                       "Select an Inventory Search Option");
     int chosen = 0;
     for (int way = 1; way <= static_cast<int>(ways().size()); ++way) {
         auto* button = new QPushButton(itemSearch(way).caption);
@@ -206,7 +207,7 @@ std::vector<KeyField> keysOf(const ItemSearch& search, const ItemKind& kind,
 
 QString searchItems(const ItemKind& kind, const Session& session, const ItemFilter& filter)
 {
-    const int way = chooseWay();
+    const int way = chooseWay(kind);
     if (way == 0)
         return noBookmark;
     ItemFilter within = filter;

@@ -84,6 +84,8 @@ TEST_F(Items, PricesFollowEachOther)
     type(entry, "txtWHOLESALE", "80");
     type(entry, "txtMARKUP", "150");
     EXPECT_EQ(entry.named("txtRETAIL"), "200.00");
+    type(entry, "txtWHOLESALE", "100");
+    EXPECT_EQ(entry.named("txtRETAIL"), "250.00");
     type(entry, "txtRETAIL", "210");
     refuse(added, "Invalid Retail. Cannot Change Retail Unless Default Mark Up is Zero.");
     type(entry, "txtMARKUP", "-1");
@@ -96,6 +98,24 @@ TEST_F(Items, PricesFollowEachOther)
     EXPECT_EQ(entry.named("txtMARKUP"), "33.33");
     EXPECT_TRUE(added.update()) << "the markup shows less than the retail price says";
     EXPECT_EQ(rows("INVENTORY", {"RETAIL"}), QStringList{"1333.33"});
+}
+
+TEST_F(Items, AQuantityIsTheTypedOneElseTheLedgers)
+{
+    DataSession added = screen("A");
+    ASSERT_TRUE(added.open());
+    fill(added.entry(), "P-1");
+    type(added.entry(), "txtAVAILABLE", "12");
+    EXPECT_TRUE(added.update());
+    EXPECT_EQ(rows("INVENTORY", {"AVAILABLE", "ONORDER", "ISSUED"}), QStringList{"12|0|0"});
+
+    DataSession edited = screen("E", site.first("ZORVEX.mdb", "INVENTORY", "ISNTAG").toInt());
+    ASSERT_TRUE(edited.open());
+    site.setFirst("ZORVEX.mdb", "INVENTORY", "AVAILABLE", 20);
+    type(edited.entry(), "txtONORDER", "3");
+    EXPECT_TRUE(edited.update());
+    EXPECT_EQ(rows("INVENTORY", {"AVAILABLE", "ONORDER"}), QStringList{"20|3"})
+        << "a posting has come between";
 }
 
 TEST_F(Items, SaveAndStayGoesOnWithTheItemAndItsFormerNumber)
@@ -219,8 +239,10 @@ TEST_F(Items, BrowseNarrowsToSeriesAndSubcategoryAndStaysOnItsItem)
     again.open();
     again.setParent({{"ILCTAG", 1}});
     EXPECT_EQ(again.currentTag(), 6) << "where the user was";
+    run(again, "cmdFilter");
     again.setParent({{"ILCTAG", 2}});
     EXPECT_EQ(again.currentTag(), 8);
+    EXPECT_EQ(again.list().source().index, "INVPARTNO") << "without the filter";
 }
 
 TEST_F(Items, CloneAndPostedVendor)
@@ -310,11 +332,12 @@ TEST_F(Items, MoveToABranchThatLacksTheirCodes)
            "Subcategory Code is Blank\nPart Number Already Exists for New Branch Code: 1");
     type(entry, "txtNEWILCCODE", "2");
     type(entry, "txtNEWSERIESCODE", "100");
+    refuseCommand("cmdSERIESEdit", "Series Code Description is Empty.");
+    refuseCommand("cmdSERIESAdd", "Series Code Description is Empty.");
+    type(entry, "txtNEWSERIESNAME", "Pipe");
     refuseCommand("cmdSERIESEdit",
                   "Edit Not Allowed. This Series Code\nDoes Not Yet Exist for Branch Code: 2\n"
                   "Use the Add Button Instead to add this Series Code.");
-    refuseCommand("cmdSERIESAdd", "Series Code Description is Empty.");
-    type(entry, "txtNEWSERIESNAME", "Pipe");
     run(moved, "cmdSERIESAdd");
     refuseCommand("cmdSERIESAdd", "Series Code: 100 Already Exists for Branch Code");
     type(entry, "txtNEWSUBCATCODE", "STL");
