@@ -60,7 +60,8 @@ BranchSelector::BranchSelector(const QString& name)
                           {.nameOf = [this](const QString& code) { return nameOf(m_folder, code); },
                            .choices = [this] { return allBranches(m_folder); },
                            .search = [this] { return codeAt(m_folder, zorSearchBranch(m_folder)); },
-                           .notFound = branchHint}))
+                           .notFound = "Invalid Branch Code.",
+                           .nothing = branchHint}))
 {
     m_branch->edit().setMaxLength(2);
     m_branch->edit().setFixedWidth(fontMetrics().averageCharWidth() * 10);

@@ -103,7 +103,7 @@ void LookUpField::check()
     if (!m_checked.isEmpty())
         runCommand([&] { name = m_source.nameOf(m_checked); });
     m_isValid = name.has_value();
-    m_name->setText(name ? *name : m_checked.isEmpty() ? QString() : m_source.notFound);
+    m_name->setText(name ? *name : m_checked.isEmpty() ? m_source.nothing : m_source.notFound);
     m_name->setToolTip(m_name->text());
     Q_EMIT changed();
 }

@@ -21,6 +21,7 @@ struct LookUpSource
     std::function<std::vector<CodeChoice>()> choices;
     std::function<QString()> search;  // the code chosen in the search window; blank for none
     QString notFound;                 // in place of the name
+    QString nothing = {};             // the same, of no code
 };
 
 class LookUpField : public QWidget
