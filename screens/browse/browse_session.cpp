@@ -408,7 +408,7 @@ void BrowseSession::comeToFront()
 
 void BrowseSession::followDetail()
 {
-    if (m_spec.readsAnewInFront && isBrowsing() && m_list.isOpen())
+    if (m_spec.readsAnewInFront && m_hasParent && isBrowsing() && m_list.isOpen())
         m_list.rebuild();
     if (!m_openedDetail || !isBrowsing() ||
         dnGetWINACTION(m_session.UserSettingsPath, m_winTag) != 1)

@@ -245,6 +245,21 @@ TEST_F(Items, BrowseNarrowsToSeriesAndSubcategoryAndStaysOnItsItem)
     EXPECT_EQ(again.list().source().index, "INVPARTNO") << "without the filter";
 }
 
+TEST_F(Items, WithoutABranchNothingIsShownNorDone)
+{
+    addItem(5, "P-1");
+    BrowseSession list(frmVEXINV01(), session);
+    list.open();
+    list.setParent({});
+    list.comeToFront();
+    EXPECT_EQ(partNumbers(list), QStringList());
+    for (const char* command : {"cmdTagAll", "cmdPostVendor", "cmdAdd2Catalog"})
+        run(list, command);
+    EXPECT_EQ(rows("INVENTORY", {"TAGGED"}), QStringList{" "});
+    user.expect("Error", "Select a Valid Branch Code");
+    run(list, "cmdClone");
+}
+
 TEST_F(Items, CloneAndPostedVendor)
 {
     addItem(5, "P-1");
