@@ -5,7 +5,6 @@
 #include <QMdiSubWindow>
 
 #include "screens/desktop.h"
-#include "screens/report/report_window.h"
 
 namespace {
 
@@ -135,24 +134,6 @@ bool DesktopArea::bringToFront(const QString& screenName)
             return true;
         }
     return false;
-}
-
-bool DesktopArea::closeScreens()
-{
-    // A box may be answered in between, and what was opened by another tells that one as it goes.
-    QList<QPointer<QMdiSubWindow>> windows;
-    for (QMdiSubWindow* window : subWindowList(ActivationHistoryOrder))
-        windows.prepend(window);
-    for (const QPointer<QMdiSubWindow>& window : windows) {
-        if (!window || !window->widget())
-            continue;
-        auto* report = dynamic_cast<ReportWindow*>(window->widget());
-        if ((report && report->run().isRunning()) || window->close())
-            continue;
-        setActiveSubWindow(window);
-        return false;
-    }
-    return true;
 }
 
 void DesktopArea::tileHorizontally()

@@ -20,10 +20,6 @@ public:
     // Brings the open screen of that name to the front; false when there is none.
     bool bringToFront(const QString& screenName);
 
-    // Closes every screen by its own way, the one in front first; false as soon as one stays, which
-    // comes to the front. The screen of a report that is running is left to its run.
-    bool closeScreens();
-
     void tileHorizontally();  // one above the other, each as wide as the area
     void tileVertically();    // side by side, each as high as the area
 

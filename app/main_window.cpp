@@ -120,7 +120,7 @@ bool frmVEXMAIN::runOwnCommand(const QString& entryName)
         {"miSelectDB", &frmVEXMAIN::selectJobSite},
         {"miUSERSET", &frmVEXMAIN::editUserSettings},
         {"miHelpAbout", &frmVEXMAIN::showAbout},
-        {"miExit", &frmVEXMAIN::exitByMenu},
+        {"miExit", &frmVEXMAIN::exitProgram},
         {"miHorizontally", &frmVEXMAIN::tileHorizontally},
         {"miVertical", &frmVEXMAIN::tileVertically},
         {"miCascade", &frmVEXMAIN::cascade},
@@ -157,10 +157,7 @@ void frmVEXMAIN::selectJobSite()
 {
     frmDBPSelect choice(m_session);
     choice.exec();
-    // Open screens write to the site on which they were opened: they go with it.
-    const QString chosen = choice.selectedPath();
-    const bool isOther = dnNotBlank(chosen) && chosen.trimmed() != m_session.JobSitePath;
-    m_startup.takeJobSite(isOther && !m_area->closeScreens() ? QString() : chosen);
+    m_startup.takeJobSite(choice.selectedPath());
 }
 
 void frmVEXMAIN::editUserSettings()
@@ -176,15 +173,11 @@ void frmVEXMAIN::showAbout()
     frmAboutView(QString("About ") + moduleName, moduleName, m_session.VersionText)->exec();
 }
 
-// False when a screen stays, and the program with it.
-bool frmVEXMAIN::exitProgram()
+void frmVEXMAIN::exitProgram()
 {
-    if (!m_area->closeScreens())
-        return false;
     ReportRun::cancelAll();  // one that lets events in would go on without a window
     savePlace();
     QCoreApplication::exit();
-    return true;
 }
 
 void frmVEXMAIN::tileHorizontally()
@@ -202,7 +195,8 @@ void frmVEXMAIN::cascade()
 
 void frmVEXMAIN::closeEvent(QCloseEvent* event)
 {
-    event->setAccepted(exitProgram());
+    event->accept();
+    exitProgram();
 }
 
 void frmVEXMAIN::restorePlace()

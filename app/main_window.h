@@ -44,8 +44,7 @@ private:
     void selectJobSite();
     void editUserSettings();
     void showAbout();
-    bool exitProgram();
-    void exitByMenu() { exitProgram(); }
+    void exitProgram();
     void tileHorizontally();
     void tileVertically();
     void cascade();

@@ -4,7 +4,6 @@
 
 #include "app/screen_table.h"
 #include "core/storage/file_paths.h"
-#include "purchasing/line_list.h"
 #include "screens/desktop.h"
 #include "screens/user_layout.h"
 #include "tests/support/fixed_system.h"
@@ -309,80 +308,6 @@ TEST_F(MainWindowTest, AnotherJobSiteIsChosenFromTheList)
     whenModalOpens([](QDialog& choice) { QTest::keyClick(&choice, Qt::Key_Escape); });
     entry("miSelectDB").trigger();
     EXPECT_EQ(window.session().JobSitePath, other);
-}
-
-// The line items of a requisition and the settings of the job site, with a change that is not
-// saved.
-class OpenScreens : public MainWindowTest
-{
-protected:
-    void open()
-    {
-        load();
-        site.addRow("ZORVEX.mdb", "REQLIST", {{"REQTAG", 10}, {"REQNO", 23}, {"CONO", 1}});
-        site.addRow("ZORVEX.mdb", "RQILIST",
-                    {{"RQITAG", 100}, {"REQTAG", 10}, {"REQLINENO", 1}, {"AMOUNT", 12.5}});
-        site.addRow("ZORNET.mdb", "RECORDLOCKS", {{"TAGNO", 10}, {"TableName", "REQUISITIONS"}});
-        openLineItems(window.session(), requisitions, {.docTag = 10});
-        entry("miSYSSET").trigger();
-        type(window, "txtMCODEDEFAULT", "Z");
-        settle();
-    }
-    void answer(Answer answer) { user.expect("Verify Exit", "Abandon Changes?", answer); }
-    void expectClosedByTheirOwnWay()
-    {
-        settle();
-        EXPECT_TRUE(desktop().subWindowList().isEmpty());
-        EXPECT_EQ(site.first("ZORVEX.mdb", "REQLIST", "AMOUNT"), 12.5) << "the total is written";
-        EXPECT_EQ(site.rowCount("ZORNET.mdb", "RECORDLOCKS"), 0);
-        EXPECT_EQ(site.rowCount("ZORUSER.mdb", "WINLIST"), 0);
-    }
-    // What the program ends with; `stays` when it does not.
-    static constexpr int stays = 7;
-    int runUntilExit(const std::function<void()>& leave)
-    {
-        QTimer::singleShot(0, &window, leave);
-        QTimer::singleShot(200, &window, [] { QCoreApplication::exit(stays); });
-        return QCoreApplication::exec();
-    }
-};
-
-TEST_F(OpenScreens, AreClosedByTheirOwnWayWhenTheProgramEnds)
-{
-    open();
-    answer(Answer::No);
-    EXPECT_EQ(runUntilExit([this] { window.close(); }), stays);
-    EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(desktop().subWindowList().size(), 2);
-    EXPECT_EQ(site.rowCount("ZORNET.mdb", "RECORDLOCKS"), 1);
-    answer(Answer::Yes);
-    EXPECT_EQ(runUntilExit([this] { entry("miExit").trigger(); }), 0);
-    expectClosedByTheirOwnWay();
-}
-
-TEST_F(OpenScreens, AreClosedBeforeAnotherJobSiteIsTaken)
-{
-    open();
-    const QString other = site.copyFolder(site.siteFolder(), "other");
-    site.addRow("DBPATHS.mdb", "DBPATHS",
-                {{"PATHNAME", "SOUTH YARD"}, {"PathText", other}, {"DBTAG", 2}});
-    const auto choose = [this](Qt::Key key) {
-        whenModalOpens([key](QDialog& choice) {
-            auto& list = control<QListWidget>(choice, "lstPATHNAME");
-            QTest::keyClick(&list, key);
-            QTest::keyClick(&list, Qt::Key_Return);
-        });
-        entry("miSelectDB").trigger();
-    };
-    choose(Qt::Key_Home);
-    EXPECT_EQ(desktop().subWindowList().size(), 2) << "the same site again";
-    answer(Answer::No);
-    choose(Qt::Key_Down);
-    EXPECT_EQ(window.session().JobSitePath, site.siteFolder());
-    answer(Answer::Yes);
-    choose(Qt::Key_Down);
-    EXPECT_EQ(window.session().JobSitePath, other);
-    expectClosedByTheirOwnWay();
 }
 
 TEST_F(MainWindowTest, AFailureOfTheStoreInACommandIsShownAndTheProgramGoesOn)
