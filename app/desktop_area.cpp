@@ -177,9 +177,7 @@ void DesktopArea::takeBackground()
 void DesktopArea::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::PaletteChange)
-        // When a screen closes, the one that opened it is in front again, however many stand open.
-        setActivationOrder(ActivationHistoryOrder);
-    takeBackground();
+        takeBackground();
     QMdiArea::changeEvent(event);
 }
 
