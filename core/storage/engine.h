@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "core/storage/definitions.h"
@@ -45,6 +46,11 @@ public:
 
     // The cell as a value of a field of that type.
     Value value(int row, size_t column, FieldType type) const;
+    // The cell of a whole number, a fraction, a text, without a value made of it; any other cell is
+    // 0 or blank. A text lives as long as the block.
+    qint64 integer(int row, size_t column) const;
+    double number(int row, size_t column) const;
+    std::string_view text(int row, size_t column) const;
 
     Version version;  // of the file when the rows were read
 
@@ -59,6 +65,11 @@ private:
             size_t offset;
         } u;
     };
+
+    const Cell& cell(int row, size_t column) const
+    {
+        return m_cells[static_cast<size_t>(row) * m_columns + column];
+    }
 
     size_t m_columns = 0;
     std::vector<RecordId> m_ids;

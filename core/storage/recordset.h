@@ -144,6 +144,7 @@ public:
     void Close();
 
 private:
+    friend class Scan;
     RecordsetState& state() const;
 
     std::shared_ptr<RecordsetState> m_state;

@@ -1,5 +1,3 @@
-#include <cstring>
-
 #include "core/storage/date_form.h"
 #include "core/storage/engine.h"
 
@@ -16,15 +14,36 @@ void RowBlock::start(size_t columnCount)
 void RowBlock::addBytes(Kind kind, const void* data, int length)
 {
     const size_t offset = m_arena.size();
-    m_arena.resize(offset + static_cast<size_t>(length));
-    if (length > 0)
-        std::memcpy(m_arena.data() + offset, data, static_cast<size_t>(length));
+    const char* bytes = static_cast<const char*>(data);
+    m_arena.insert(m_arena.end(), bytes, bytes + length);
     m_cells.push_back({kind, static_cast<quint32>(length), {.offset = offset}});
+}
+
+qint64 RowBlock::integer(int row, size_t column) const
+{
+    const Cell& found = cell(row, column);
+    return found.kind == Kind::Integer ? found.u.integer : 0;
+}
+
+double RowBlock::number(int row, size_t column) const
+{
+    const Cell& found = cell(row, column);
+    return found.kind == Kind::Real      ? found.u.real
+           : found.kind == Kind::Integer ? static_cast<double>(found.u.integer)
+                                         : 0;
+}
+
+std::string_view RowBlock::text(int row, size_t column) const
+{
+    const Cell& found = cell(row, column);
+    if (found.kind != Kind::Text)
+        return {};
+    return {m_arena.data() + found.u.offset, found.length};
 }
 
 Value RowBlock::value(int row, size_t column, FieldType type) const
 {
-    const Cell& cell = m_cells[static_cast<size_t>(row) * m_columns + column];
+    const Cell& cell = this->cell(row, column);
     switch (cell.kind) {
         case Kind::Null:
             return {};
