@@ -2,13 +2,6 @@
 
 #include "core/storage/storage_error.h"
 
-namespace {
-
-constexpr int mostRows = 2'000;
-constexpr int mostMilliseconds = 80;  // with the commit, about what other users wait at the most
-
-}  // namespace
-
 WriteBatch::~WriteBatch()
 {
     if (!m_isOpen)
@@ -32,7 +25,7 @@ void WriteBatch::begin()
 
 bool WriteBatch::added()
 {
-    if (++m_rows < mostRows && m_held.elapsed() < mostMilliseconds)
+    if (++m_rows < m_limits.rows && m_held.elapsed() < m_limits.milliseconds)
         return false;
     commit();
     return true;

@@ -90,7 +90,8 @@ HistoryLine LedgerHistory::take(const storage::Recordset& transactions)
                      .DOCLDATE = text("LDATE"),
                      .quantity = static_cast<float>(transactions["QUANTITY"].value().toDouble())};
     const QString docType = text("DOCTYPE");
-    if (const LedgerKind* kind = ledgerKind(docType, text("ITEMTYPE"), m_reading)) {
+    if (const LedgerKind* kind =
+            ledgerKind(docType.toStdString(), text("ITEMTYPE").toStdString(), m_reading)) {
         const bool isRenamed = kind == &ledger::returned && m_reading.returnDescription;
         line.DOCDESC = isRenamed ? m_reading.returnDescription : kind->description;
         line.DOCNO = numberOf(*kind, transactions["DOCTAG"].value().toInt());

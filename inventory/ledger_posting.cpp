@@ -15,6 +15,7 @@
 namespace {
 
 constexpr int millisecondsBetweenEvents = 20;
+constexpr int rowsBetweenLooks = 64;  // at the clock
 
 const QString updateTitle = "Error in Function: zorInvTransUpdate";
 const QString deleteTitle = "Error: zorInvTransDelete";
@@ -33,7 +34,7 @@ public:
     ScreenEvents() { m_timer.start(); }
     void proceed()
     {
-        if (m_timer.elapsed() < millisecondsBetweenEvents)
+        if (++m_rows % rowsBetweenLooks != 0 || m_timer.elapsed() < millisecondsBetweenEvents)
             return;
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         m_timer.start();
@@ -41,6 +42,7 @@ public:
 
 private:
     QElapsedTimer m_timer;
+    int m_rows = 0;
 };
 
 // The files of one posting.
@@ -234,9 +236,10 @@ QString zorInvTransRecalc(storage::Recordset& inventory, storage::Recordset& tra
 {
     LedgerReplay replay(postingReading);
     ScreenEvents events;
-    forEachOfItem(transactions, isnTag, [&] {
+    LinesByTag rows = ledgerByItem(transactions);
+    rows.forEach(isnTag, [&] {
         events.proceed();
-        return replay.take(transactions);
+        return replay.takeLine(rows);
     });
     if (!replay.refusal().isEmpty())
         return replay.refusal();

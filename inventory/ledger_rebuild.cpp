@@ -1,370 +1,248 @@
 #include "inventory/ledger_rebuild.h"
 
-#include <QHash>
 #include <algorithm>
-#include <vector>
+#include <cmath>
+#include <limits>
 
-#include "core/dates.h"
 #include "core/keyed_access.h"
 #include "core/messages.h"
 #include "core/storage/file_paths.h"
 #include "core/write_batch.h"
-#include "inventory/ledger_replay.h"
+#include "inventory/ledger_documents.h"
 #include "inventory/ledger_row.h"
-#include "inventory/lines_by_tag.h"
 
 namespace {
 
 const QString title = "Error: Transaction Recalc";
 
-// Rows are gathered and written by so many: a write between two moves would have each move read
-// its block anew, and rows sorted by item share pages of the index.
-constexpr size_t rowsAtOnce = 50'000;
+// Rows come in and go by many at a time: each commit writes every page that it touched, and rows of
+// one document lie on as many pages as they name items.
+constexpr WriteBatch::Limits manyRows = {.rows = 10'000, .milliseconds = 250};
 
-// Material reports: each line moves stock of one item, or of two.
-struct LineEffect
+void tell(const QString& text)
 {
-    schema::FieldName item;
-    const LedgerKind* kind;
-};
-struct ReportFamily
-{
-    const char* headers;
-    const char* lines;  // and their index
-    schema::FieldName tag;
-    schema::FieldName lineTag;
-    std::vector<LineEffect> effects;
-};
+    showCritical(title, text);
+}
 
+// What names a row: rows that are equal in it are told apart by their order alone.
+auto identity(const LedgerKind* kind, qint32 docTag, qint32 itemTag, qint32 isnTag)
+{
+    return std::tuple(reinterpret_cast<quintptr>(kind), docTag, itemTag, isnTag);
+}
+
+auto identity(const DocumentEffect& effect)
+{
+    return identity(effect.kind, effect.docTag, effect.itemTag, effect.isnTag);
+}
+
+// The ledger of a branch beside its documents. Most of it is mostly right, so that what differs is
+// written alone: the end is as if all had been written anew, thirty times as soon.
 class Rebuild
 {
 public:
     Rebuild(const QString& path, qint32 ilcTag, const std::function<bool()>& proceed)
-        : m_path(path),
-          m_ilcTag(ilcTag),
+        : m_ilcTag(ilcTag),
           m_proceed(proceed),
           m_workspace(storage::CreateWorkspace("wksZORVEX")),
           m_database(m_workspace.OpenDatabase(storage::joinPath(path, "ZORVEX.mdb"))),
-          m_writer(m_database.OpenRecordset("INVTRANS"))
+          m_documents(path, m_workspace, m_database, ilcTag, proceed, tell)
     {
     }
 
-    // All false when stopped.
-    bool run();
+    // False when stopped.
+    bool run()
+    {
+        if (!m_documents.read())
+            return false;
+        sortEffects();
+        return compareRows() && deleteRows() && addRows() && replayItems();
+    }
 
 private:
-    struct ItemPlace
-    {
-        qint32 ilcTag;
-        qint32 icnTag;
-    };
-    struct Dates
-    {
-        QString fDate;
-        QString lDate;
-    };
-
-    void readItems();
-    bool deleteOldRows();
-    bool takeCounts();
-    bool takeOrders();
-    bool takeReports(const ReportFamily& family);
-    bool takeRepairOrders();
-    bool takeAdjustments();
+    void sortEffects();
+    bool compareRows();
+    bool stands(const storage::Scan& row);
+    bool deleteRows();
+    bool addRows();
     bool replayItems();
+    bool writeQuantities(const std::vector<qint32>& items);
 
-    // Of the branch alone; a line without an item, or of another branch, is not taken.
-    bool isTaken(qint32 isnTag);
-    void add(const LedgerKind& kind, qint32 docTag, qint32 itemTag, qint32 isnTag,
-             const Dates& dates, double quantity);
-    bool goOn();
-    bool flush();
-    bool writeQuantities(std::vector<std::pair<qint32, StockQuantities>>& replayed);
-    template <class Take>
-    bool forEachHeader(storage::Recordset headers, const char* index, Take take);
-
-    const QString m_path;
     const qint32 m_ilcTag;
     const std::function<bool()>& m_proceed;
     storage::Workspace m_workspace;
     storage::Database m_database;
-    storage::Recordset m_writer;
-    QHash<qint32, ItemPlace> m_items;
-    std::vector<LedgerRow> m_rows;
+    LedgerDocuments m_documents;
+
+    // Of the effects, by identity: the next one that has no row yet of those with the same one.
+    std::vector<size_t> m_next;
+    std::vector<bool> m_hasRow;
+    std::vector<QString> m_surplus;  // bookmarks of rows that no document has
 };
 
-qint32 tagOf(const storage::Recordset& rows, schema::FieldName field)
+void Rebuild::sortEffects()
 {
-    return rows[field].value().toInt();
+    std::vector<DocumentEffect>& effects = m_documents.effects();
+    std::stable_sort(
+        effects.begin(), effects.end(),
+        [](const DocumentEffect& a, const DocumentEffect& b) { return identity(a) < identity(b); });
+    m_next.resize(effects.size());
+    for (size_t i = 0; i < effects.size(); ++i)
+        m_next[i] = i;
+    m_hasRow.assign(effects.size(), false);
 }
 
-QString stringOf(const storage::Recordset& rows, schema::FieldName field)
+// Places of the fields that are compared.
+enum RowField : size_t {
+    ilcTag,
+    docType,
+    docTag,
+    itemType,
+    itemTag,
+    isnTag,
+    icnTag,
+    fDate,
+    lDate,
+    quantity
+};
+
+// Whether the row is what a document gives. Rows of one identity are held to the effects of it in
+// their order, because the later of two counts is the one that holds.
+bool Rebuild::stands(const storage::Scan& row)
 {
-    return rows[field].value().toString();
+    const LedgerKind* kind = ledgerKind(row.text(docType), row.text(itemType), rebuildReading);
+    if (!kind || kind->itemType != row.string(itemType))
+        return false;
+    const std::vector<DocumentEffect>& effects = m_documents.effects();
+    const auto wanted = identity(kind, row.tag(docTag), row.tag(itemTag), row.tag(isnTag));
+    const auto first = std::lower_bound(
+        effects.begin(), effects.end(), wanted,
+        [](const DocumentEffect& effect, const auto& key) { return identity(effect) < key; });
+    if (first == effects.end() || identity(*first) != wanted)
+        return false;
+    size_t& next = m_next[static_cast<size_t>(first - effects.begin())];
+    if (next == effects.size() || identity(effects[next]) != wanted)
+        return false;  // more rows than effects
+    const DocumentEffect& effect = effects[next];
+    const bool isAlike = std::abs(effect.quantity) <= std::numeric_limits<float>::max() &&
+                         float(effect.quantity) == float(row.number(quantity)) &&
+                         effect.lDate == row.text(lDate) && effect.fDate == row.text(fDate) &&
+                         m_documents.catalogTag(effect.isnTag) == row.tag(icnTag);
+    if (isAlike)
+        m_hasRow[next++] = true;
+    return isAlike;
 }
 
-void Rebuild::readItems()
+bool Rebuild::compareRows()
 {
-    storage::Recordset items = m_database.OpenRecordset("INVENTORY");
-    for (bool more = items.RecordCount() > 0; more; more = items.MoveNext())
-        m_items.insert(tagOf(items, "ISNTAG"), {tagOf(items, "ILCTAG"), tagOf(items, "ICNTAG")});
-}
-
-bool Rebuild::deleteOldRows()
-{
-    storage::Recordset walk = m_database.OpenRecordset("INVTRANS");
-    walk.Index("INVTRANSILCTAG");
-    std::vector<QString> found;
-    while (walk.Seek("=", m_ilcTag)) {
-        found.clear();
-        do
-            found.push_back(walk.Bookmark());
-        while (found.size() < rowsAtOnce && walk.MoveNext() && tagOf(walk, "ILCTAG") == m_ilcTag);
-        WriteBatch batch(m_workspace);
-        for (const QString& bookmark : found) {
-            batch.begin();
-            if (goToFound(m_writer, bookmark))
-                m_writer.Delete();
-            if (batch.added() && !m_proceed())
-                return false;
-        }
-        batch.commit();
+    storage::Scan rows(m_database.OpenRecordset("INVTRANS"),
+                       {"ILCTAG", "DOCTYPE", "DOCTAG", "ITEMTYPE", "ITEMTAG", "ISNTAG", "ICNTAG",
+                        "FDATE", "LDATE", "QUANTITY"});
+    for (bool more = rows.from(); more; more = rows.next()) {
+        if (rows.tag(ilcTag) == m_ilcTag && !stands(rows))
+            m_surplus.push_back(rows.bookmark());
+        if (!m_proceed())
+            return false;
     }
     return true;
 }
 
-bool Rebuild::isTaken(qint32 isnTag)
+bool Rebuild::deleteRows()
 {
-    if (isnTag == 0)
-        return false;
-    const auto item = m_items.constFind(isnTag);
-    if (item != m_items.constEnd())
-        return item->ilcTag == m_ilcTag;
-    showCritical(title, "Cannot Find the Inventory Item Tag: " + QString::number(isnTag));
-    return false;
-}
-
-void Rebuild::add(const LedgerKind& kind, qint32 docTag, qint32 itemTag, qint32 isnTag,
-                  const Dates& dates, double quantity)
-{
-    m_rows.push_back({.ilcTag = m_ilcTag,
-                      .icnTag = m_items[isnTag].icnTag,
-                      .isnTag = isnTag,
-                      .docType = kind.docType,
-                      .docTag = docTag,
-                      .itemType = kind.itemType,
-                      .itemTag = itemTag,
-                      .fDate = dates.fDate,
-                      .lDate = dates.lDate,
-                      .quantity = quantity});
-}
-
-bool Rebuild::goOn()
-{
-    return m_proceed() && (m_rows.size() < rowsAtOnce || flush());
-}
-
-bool Rebuild::flush()
-{
-    std::stable_sort(m_rows.begin(), m_rows.end(), [](const LedgerRow& a, const LedgerRow& b) {
-        return std::tie(a.isnTag, a.lDate) < std::tie(b.isnTag, b.lDate);
-    });
-    WriteBatch batch(m_workspace);
-    for (const LedgerRow& row : m_rows) {
+    storage::Recordset rows = m_database.OpenRecordset("INVTRANS");
+    WriteBatch batch(m_workspace, manyRows);
+    for (const QString& bookmark : m_surplus) {
         batch.begin();
-        m_writer.AddNew();
-        storeAll(m_writer, row);
-        m_writer.Update();
+        if (goToFound(rows, bookmark))
+            rows.Delete();
         if (batch.added() && !m_proceed())
             return false;
     }
     batch.commit();
-    m_rows.clear();
     return true;
 }
 
-template <class Take>
-bool Rebuild::forEachHeader(storage::Recordset headers, const char* index, Take take)
+// By item, so that rows lie together as a replay reads them.
+bool Rebuild::addRows()
 {
-    if (headers.RecordCount() == 0)
-        return true;
-    headers.Index(index);
-    headers.MoveFirst();
-    do
-        if (!take(headers) || !goOn())
+    const std::vector<DocumentEffect>& effects = m_documents.effects();
+    std::vector<const DocumentEffect*> missing;
+    for (size_t i = 0; i < effects.size(); ++i)
+        if (!m_hasRow[i])
+            missing.push_back(&effects[i]);
+    std::stable_sort(missing.begin(), missing.end(),
+                     [](const DocumentEffect* a, const DocumentEffect* b) {
+                         return std::tie(a->isnTag, a->lDate) < std::tie(b->isnTag, b->lDate);
+                     });
+    storage::Recordset rows = m_database.OpenRecordset("INVTRANS");
+    WriteBatch batch(m_workspace, manyRows);
+    for (const DocumentEffect* effect : missing) {
+        batch.begin();
+        rows.AddNew();
+        storeAll(rows, {.ilcTag = m_ilcTag,
+                        .icnTag = m_documents.catalogTag(effect->isnTag),
+                        .isnTag = effect->isnTag,
+                        .docType = effect->kind->docType,
+                        .docTag = effect->docTag,
+                        .itemType = effect->kind->itemType,
+                        .itemTag = effect->itemTag,
+                        .fDate = QString::fromStdString(effect->fDate),
+                        .lDate = QString::fromStdString(effect->lDate),
+                        .quantity = effect->quantity});
+        rows.Update();
+        if (batch.added() && !m_proceed())
             return false;
-    while (headers.MoveNext());
+    }
+    batch.commit();
     return true;
 }
 
-bool Rebuild::takeCounts()
-{
-    LinesByTag items(m_database.OpenRecordset("PIITEMS"), "PITAG", "PITAG");
-    return forEachHeader(
-        m_database.OpenRecordset("PILIST"), "PILDATE", [&](const storage::Recordset& counts) {
-            if (tagOf(counts, "ILCTAG") != m_ilcTag)
-                return true;
-            const qint32 tag = tagOf(counts, "PITAG");
-            const Dates dates{stringOf(counts, "PIFDATE"), stringOf(counts, "PILDATE")};
-            bool goesOn = true;
-            items.forEach(tag, [&] {
-                const qint32 isnTag = tagOf(items.rows(), "ISNTAG");
-                if (isTaken(isnTag))
-                    add(ledger::count, tag, 0, isnTag, dates,
-                        items.rows()["PICOUNT"].value().toDouble());
-                return goesOn = goOn();
-            });
-            return goesOn;
-        });
-}
-
-bool Rebuild::takeOrders()
-{
-    LinesByTag lines(m_database.OpenRecordset("RQILIST"), "RQIPOITEMNO", "POTAG");
-    LinesByTag receipts(m_database.OpenRecordset("RECEIVED"), "RECRQI", "RQITAG");
-    const auto takeReceipts = [&](qint32 order, qint32 line, qint32 isnTag) {
-        bool goesOn = true;
-        receipts.forEach(line, [&] {
-            const storage::Recordset& rows = receipts.rows();
-            add(ledger::received, order, tagOf(rows, "RECTAG"), isnTag,
-                {stringOf(rows, "DATEREC"), stringOf(rows, "LDATEREC")},
-                rows["QTYREC"].value().toDouble());
-            return goesOn = goOn();
-        });
-        return goesOn;
-    };
-    const auto takeOrder = [&](const storage::Recordset& orders) {
-        const qint32 order = tagOf(orders, "POTAG");
-        const Dates dates{stringOf(orders, "FDATE"), stringOf(orders, "LDATE")};
-        bool goesOn = true;
-        lines.forEach(order, [&] {
-            const storage::Recordset& rows = lines.rows();
-            const qint32 isnTag = tagOf(rows, "ISNTAG");
-            if (isTaken(isnTag)) {
-                const qint32 line = tagOf(rows, "RQITAG");
-                add(ledger::ordered, order, line, isnTag, dates, rows["QTY"].value().toDouble());
-                goesOn = takeReceipts(order, line, isnTag);
-            }
-            return goesOn = goesOn && goOn();
-        });
-        return goesOn;
-    };
-    return forEachHeader(m_database.OpenRecordset("POLIST"), "POTAG", takeOrder);
-}
-
-bool Rebuild::takeReports(const ReportFamily& family)
-{
-    LinesByTag lines(m_database.OpenRecordset(family.lines), family.lines, family.tag);
-    return forEachHeader(
-        m_database.OpenRecordset(family.headers), "", [&](const storage::Recordset& reports) {
-            const qint32 report = tagOf(reports, family.tag);
-            const Dates dates{stringOf(reports, "FDATE"), stringOf(reports, "LDATE")};
-            bool goesOn = true;
-            lines.forEach(report, [&] {
-                const storage::Recordset& rows = lines.rows();
-                for (const LineEffect& effect : family.effects) {
-                    const qint32 isnTag = tagOf(rows, effect.item);
-                    if (isTaken(isnTag))
-                        add(*effect.kind, report, tagOf(rows, family.lineTag), isnTag, dates,
-                            rows["QTY"].value().toDouble());
-                }
-                return goesOn = goOn();
-            });
-            return goesOn;
-        });
-}
-
-bool Rebuild::takeRepairOrders()
-{
-    const QString file = storage::joinPath(m_path, "ZORBRQ.mdb");
-    if (!storage::pathExists(file))
-        return true;
-    const storage::Database equipment = m_workspace.OpenDatabase(file);
-    LinesByTag lines(equipment.OpenRecordset("BRQROMAT"), "BRQROMAT", "BRQROTAG");
-    return forEachHeader(equipment.OpenRecordset("BRQROLIST"), "",
-                         [&](const storage::Recordset& orders) {
-                             const qint32 order = tagOf(orders, "BRQROTAG");
-                             bool goesOn = true;
-                             lines.forEach(order, [&] {
-                                 const storage::Recordset& rows = lines.rows();
-                                 const qint32 isnTag = tagOf(rows, "ISNTAG");
-                                 if (isTaken(isnTag)) {
-                                     const QString date = stringOf(rows, "FDATE");
-                                     add(ledger::used, order, tagOf(rows, "BRQROMTAG"), isnTag,
-                                         {date, dnDateKey(date)}, rows["QTY"].value().toDouble());
-                                 }
-                                 return goesOn = goOn();
-                             });
-                             return goesOn;
-                         });
-}
-
-bool Rebuild::takeAdjustments()
-{
-    return forEachHeader(m_database.OpenRecordset("INVADJLIST"), "",
-                         [&](const storage::Recordset& rows) {
-                             const qint32 isnTag = tagOf(rows, "ISNTAG");
-                             if (isTaken(isnTag))
-                                 add(ledger::adjusted, tagOf(rows, "INVADJTAG"), 0, isnTag,
-                                     {stringOf(rows, "FDATE"), stringOf(rows, "LDATE")},
-                                     rows["QUANTITY"].value().toDouble());
-                             return true;
-                         });
-}
-
-bool Rebuild::writeQuantities(std::vector<std::pair<qint32, StockQuantities>>& replayed)
+// Each item anew, within the transaction: somebody may have posted to it since it was compared.
+bool Rebuild::writeQuantities(const std::vector<qint32>& changed)
 {
     storage::Recordset items = m_database.OpenRecordset("INVENTORY");
+    const storage::Recordset ledgerRows = m_database.OpenRecordset("INVTRANS");
     items.Index("INVISNTAG");
     WriteBatch batch(m_workspace);
-    for (const auto& [isnTag, quantities] : replayed) {
+    for (const qint32 isnTag : changed) {
         batch.begin();
-        if (!items.Seek("=", isnTag))
-            continue;
-        items.Edit();
-        store(items, quantities);
-        items.Update();
+        LinesByTag rows = ledgerByItem(ledgerRows);
+        LedgerReplay replay(rebuildReading);
+        if (rows.forEach(isnTag, [&] { return replay.takeLine(rows); }) &&
+            replay.refusal().isEmpty() && items.Seek("=", isnTag)) {
+            items.Edit();
+            store(items, replay.quantities());
+            items.Update();
+        }
         if (batch.added() && !m_proceed())
             return false;
     }
     batch.commit();
-    replayed.clear();
     return true;
 }
 
 bool Rebuild::replayItems()
 {
-    LinesByTag rows(m_database.OpenRecordset("INVTRANS"), "INVTRANSISNTAG", "ISNTAG");
-    std::vector<std::pair<qint32, StockQuantities>> replayed;
-    const bool isWhole = forEachHeader(
-        m_database.OpenRecordset("INVENTORY"), "INVISNTAG", [&](const storage::Recordset& items) {
-            const qint32 isnTag = tagOf(items, "ISNTAG");
-            LedgerReplay replay(rebuildReading);
-            if (!rows.forEach(isnTag, [&] { return replay.take(rows.rows()); }))
-                return true;
+    storage::Recordset inventory = m_database.OpenRecordset("INVENTORY");
+    inventory.Index("INVISNTAG");
+    storage::Scan items(inventory, {"ISNTAG", "AVAILABLE", "ONORDER", "ISSUED", "INVADJUSTMENTS"});
+    LinesByTag rows = ledgerByItem(m_database.OpenRecordset("INVTRANS"));
+    std::vector<qint32> changed;
+    for (bool more = items.from(); more; more = items.next()) {
+        LedgerReplay replay(rebuildReading);
+        const StockQuantities stored = {.available = float(items.number(1)),
+                                        .onOrder = float(items.number(2)),
+                                        .issued = float(items.number(3)),
+                                        .adjustments = float(items.number(4))};
+        if (rows.forEach(items.tag(0), [&] { return replay.takeLine(rows); })) {
             if (!replay.refusal().isEmpty())
-                showCritical(title, replay.refusal());
-            else if (replay.quantities() != storedQuantities(items))
-                replayed.emplace_back(isnTag, replay.quantities());
-            return replayed.size() < rowsAtOnce || writeQuantities(replayed);
-        });
-    return isWhole && writeQuantities(replayed);
-}
-
-bool Rebuild::run()
-{
-    const ReportFamily transfers = {
-        "MTRLIST",
-        "MTRITEMS",
-        "MTRTAG",
-        "MTRITAG",
-        {{"FROMISNTAG", &ledger::transferOut}, {"TOISNTAG", &ledger::transferIn}}};
-    const ReportFamily returns = {
-        "MRRLIST", "MRRITEMS", "MRRTAG", "MRRITAG", {{"ISNTAG", &ledger::returned}}};
-    readItems();
-    return deleteOldRows() && takeCounts() && takeOrders() && takeReports(transfers) &&
-           takeReports(returns) && takeRepairOrders() && takeAdjustments() && flush() &&
-           replayItems();
+                tell(replay.refusal());
+            else if (replay.quantities() != stored)
+                changed.push_back(items.tag(0));
+        }
+        if (!m_proceed())
+            return false;
+    }
+    return writeQuantities(changed);
 }
 
 }  // namespace

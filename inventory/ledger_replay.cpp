@@ -52,13 +52,19 @@ constexpr const LedgerKind* kinds[] = {&ledger::count,    &ledger::ordered,     
                                        &ledger::adjusted, &ledger::transferOut, &ledger::transferIn,
                                        &ledger::returned, &ledger::issued,      &ledger::used};
 
-QString refusalOf(const QString& docType, const QString& itemType, const LedgerReading& reading)
+bool isAlike(std::string_view text, QLatin1String name)
 {
-    if (docType == ledger::ordered.docType)
-        return "Invalid PO Item Type: " + itemType.trimmed();
-    if (docType == ledger::transferOut.docType)
-        return QString("Invalid ") + reading.transferName + " Item Type: " + itemType.trimmed();
-    return "Invalid Document Type: " + docType.trimmed();
+    return text == std::string_view(name.data(), static_cast<size_t>(name.size()));
+}
+
+QString refusalOf(std::string_view docType, std::string_view itemType, const LedgerReading& reading)
+{
+    const QString lineKind = QString::fromUtf8(itemType).trimmed();
+    if (isAlike(docType, ledger::ordered.docType))
+        return "Invalid PO Item Type: " + lineKind;
+    if (isAlike(docType, ledger::transferOut.docType))
+        return QString("Invalid ") + reading.transferName + " Item Type: " + lineKind;
+    return "Invalid Document Type: " + QString::fromUtf8(docType).trimmed();
 }
 
 float singleOf(const storage::Recordset& rows, schema::FieldName field)
@@ -81,11 +87,12 @@ bool forEachOf(storage::Recordset& transactions, const char* index, schema::Fiel
 
 }  // namespace
 
-const LedgerKind* ledgerKind(const QString& docType, const QString& itemType,
+const LedgerKind* ledgerKind(std::string_view docType, std::string_view itemType,
                              const LedgerReading& reading)
 {
     for (const LedgerKind* kind : kinds)
-        if (docType == kind->docType && (!kind->itemTypeCounts || itemType == kind->itemType))
+        if (isAlike(docType, kind->docType) &&
+            (!kind->itemTypeCounts || isAlike(itemType, kind->itemType)))
             return kind == &ledger::issued && !reading.knowsIssues ? nullptr : kind;
     return nullptr;
 }
@@ -144,19 +151,35 @@ void store(storage::Recordset& item, const StockQuantities& quantities)
     item["INVADJUSTMENTS"] = double(quantities.adjustments);
 }
 
-bool LedgerReplay::take(const storage::Recordset& transactions)
+bool LedgerReplay::take(std::string_view docType, std::string_view itemType, double quantity)
 {
-    const QString docType = transactions["DOCTYPE"].value().toString();
-    const QString itemType = transactions["ITEMTYPE"].value().toString();
     const LedgerKind* kind = ledgerKind(docType, itemType, m_reading);
     if (!kind) {
         m_refusal = refusalOf(docType, itemType, m_reading);
         return false;
     }
-    m_quantities.apply(kind->effect, singleOf(transactions, "QUANTITY"), m_reading);
+    m_quantities.apply(kind->effect, static_cast<float>(quantity), m_reading);
     if (!m_quantities.fit())
         m_refusal = "Overflow";
     return m_refusal.isEmpty();
+}
+
+bool LedgerReplay::take(const storage::Recordset& transactions)
+{
+    return take(transactions["DOCTYPE"].value().toString().toStdString(),
+                transactions["ITEMTYPE"].value().toString().toStdString(),
+                transactions["QUANTITY"].value().toDouble());
+}
+
+bool LedgerReplay::takeLine(const LinesByTag& rows)
+{
+    const storage::Scan& row = rows.line();
+    return take(row.text(1), row.text(2), row.number(3));
+}
+
+LinesByTag ledgerByItem(const storage::Recordset& transactions)
+{
+    return {transactions, "INVTRANSISNTAG", {"ISNTAG", "DOCTYPE", "ITEMTYPE", "QUANTITY"}};
 }
 
 bool forEachOfItem(storage::Recordset& transactions, qint32 isnTag,

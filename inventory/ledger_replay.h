@@ -11,7 +11,7 @@
 #include <QString>
 #include <functional>
 
-#include "core/storage/recordset.h"
+#include "inventory/lines_by_tag.h"
 
 enum class StockEffect { Count, Ordered, Received, Adjusted, Out, In, Used };
 
@@ -59,8 +59,8 @@ inline constexpr LedgerReading historyReportReading = {
     .countClearsOrders = false,
     .returnDescription = "Material Release Report"};
 
-// The kind of a row; null for one that the reading does not know.
-const LedgerKind* ledgerKind(const QString& docType, const QString& itemType,
+// The kind of a row, its texts as UTF-8; null for one that the reading does not know.
+const LedgerKind* ledgerKind(std::string_view docType, std::string_view itemType,
                              const LedgerReading& reading);
 
 // The four quantities of an item, in single precision as they are stored.
@@ -87,9 +87,11 @@ class LedgerReplay
 public:
     explicit LedgerReplay(const LedgerReading& reading) : m_reading(reading) {}
 
-    // Takes the row on which the handle stands. False when its kind is unknown, or a sum does not
-    // fit a Single any more, which ends the replay.
-    bool take(const storage::Recordset& transactions);
+    // Takes a row. False when its kind is unknown, or a sum does not fit a Single any more, which
+    // ends the replay.
+    bool take(std::string_view docType, std::string_view itemType, double quantity);
+    bool take(const storage::Recordset& transactions);  // the row on which the handle stands
+    bool takeLine(const LinesByTag& rows);              // that of a walk made by `ledgerByItem`
 
     const StockQuantities& quantities() const { return m_quantities; }
     // What is told of the row that ended it; blank when none did.
@@ -100,6 +102,9 @@ private:
     StockQuantities m_quantities;
     QString m_refusal;
 };
+
+// The rows of INVTRANS by item, each item's oldest first, with what a replay needs of them.
+LinesByTag ledgerByItem(const storage::Recordset& transactions);
 
 // Walks an item's rows oldest first, or those of a catalog item in the order of entry, while `take`
 // gives true. The handle's index becomes INVTRANSISNTAG or INVTRANSICNTAG. False when there is no

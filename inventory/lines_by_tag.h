@@ -5,19 +5,20 @@
 
 #include <limits>
 
-#include "core/storage/recordset.h"
+#include "core/storage/scan.h"
 
 class LinesByTag
 {
 public:
-    // `tag` is the first field of the index.
-    LinesByTag(storage::Recordset rows, const QString& index, schema::FieldName tag)
-        : m_rows(std::move(rows)), m_tag(tag)
+    // The first of the fields is the owner's tag, and the first of the index.
+    LinesByTag(storage::Recordset rows, const QString& index,
+               std::initializer_list<schema::FieldName> fields)
+        : m_line(along(rows, index), fields)
     {
-        m_rows.Index(index);
     }
 
-    const storage::Recordset& rows() const { return m_rows; }
+    // The present line, its fields by their places.
+    const storage::Scan& line() const { return m_line; }
 
     // Calls `take` on each line of the owner, in the order of the index, while it gives true. False
     // when there is none.
@@ -29,7 +30,7 @@ public:
         bool goesOn = true;
         while (!m_isAtEnd && m_next == owner) {
             goesOn = goesOn && take();
-            step(m_rows.MoveNext());
+            step(m_line.next());
             if (!goesOn)
                 break;
         }
@@ -38,12 +39,17 @@ public:
     }
 
 private:
+    static const storage::Recordset& along(storage::Recordset& rows, const QString& index)
+    {
+        rows.Index(index);
+        return rows;
+    }
     bool goTo(qint32 owner)
     {
-        // No line lies between the last owner and the line that the handle stands on.
+        // No line lies between the last owner and the line that the scan stands on.
         const bool isAhead = owner > m_last && (m_isAtEnd || owner <= m_next);
         if (!isAhead)
-            step(m_rows.Seek(">=", owner));
+            step(m_line.from(owner));
         m_last = owner;
         return !m_isAtEnd && m_next == owner;
     }
@@ -51,11 +57,10 @@ private:
     {
         m_isAtEnd = !isOnRow;
         if (isOnRow)
-            m_next = m_rows[m_tag].value().toInt();
+            m_next = m_line.tag(0);
     }
 
-    storage::Recordset m_rows;
-    schema::FieldName m_tag;
+    storage::Scan m_line;
     qint32 m_last = std::numeric_limits<qint32>::max();  // nothing is known yet
     qint32 m_next = 0;
     bool m_isAtEnd = false;

@@ -17,11 +17,14 @@ QString figures(const StockQuantities& quantities)
         .arg(double(quantities.adjustments));
 }
 
-QString named(const storage::Recordset& row)
+QString named(const storage::Scan& row)
 {
-    const auto text = [&row](schema::FieldName field) { return row[field].value().toString(); };
-    return text("DOCTYPE") + ' ' + text("DOCTAG") + ' ' + text("ITEMTYPE") + ' ' + text("ITEMTAG") +
-           " of " + text("FDATE") + ", quantity " + text("QUANTITY");
+    return QString("%1 %2 %3 %4 of %5, quantity %6")
+        .arg(row.string(1))
+        .arg(row.tag(4))
+        .arg(row.string(2))
+        .arg(row.tag(5))
+        .arg(row.string(6), storage::Value(row.number(3)).toString());
 }
 
 // The replay of one item, beside what is stored.
@@ -33,11 +36,11 @@ public:
         m_agrees = stored == StockQuantities();
     }
 
-    bool take(const storage::Recordset& row)
+    bool take(const LinesByTag& rows)
     {
         if (m_agrees || m_parting.isEmpty())
-            m_parting = named(row);
-        const bool isKnown = m_replay.take(row);
+            m_parting = named(rows.line());
+        const bool isKnown = m_replay.takeLine(rows);
         m_agrees = isKnown && m_replay.quantities() == m_stored;
         return isKnown;
     }
@@ -71,13 +74,14 @@ QStringList ledgerFindingsIn(const QString& path)
     QStringList findings;
     if (items.RecordCount() == 0)
         return findings;
-    LinesByTag ledger(zorvex.OpenRecordset("INVTRANS"), "INVTRANSISNTAG", "ISNTAG");
+    LinesByTag ledger(zorvex.OpenRecordset("INVTRANS"), "INVTRANSISNTAG",
+                      {"ISNTAG", "DOCTYPE", "ITEMTYPE", "QUANTITY", "DOCTAG", "ITEMTAG", "FDATE"});
     FieldByTag branches(zorvex.OpenRecordset("ILCLIST"), "ILCTAG", "ILCCODE");
     items.Index("INVISNTAG");
     for (bool more = items.MoveFirst(); more; more = items.MoveNext()) {
         Comparison comparison(storedQuantities(items));
         const qint32 tag = items["ISNTAG"].value().toInt();
-        ledger.forEach(tag, [&] { return comparison.take(ledger.rows()); });
+        ledger.forEach(tag, [&] { return comparison.take(ledger); });
         const QString finding = comparison.finding();
         if (!finding.isEmpty())
             findings.append(

@@ -176,4 +176,53 @@ TEST_F(LedgerRebuild, StopsWhereItStandsAndANewRunDoesTheRest)
     EXPECT_EQ(ledgerRows(), rows);
 }
 
+// What the documents do not say goes, what they say otherwise is put right, and a row that is right
+// is left: its record is still the same.
+TEST_F(LedgerRebuild, WritesWhatDiffersAlone)
+{
+    addDocuments();
+    const QStringList rows = ledgerRows();
+    const StockQuantities first = quantities(1);
+    const OpenTable ledger = site.open("ZORVEX.mdb", "INVTRANS");
+    storage::Recordset row = ledger.rows;
+    row.Index("INVTRANSACTION");
+    ASSERT_TRUE(row.Seek("=", "PO", 10, "RQI", 11, 1));
+    const QString right = row.Bookmark();
+    const auto spoil = [&row](schema::FieldName field, const storage::Value& value) {
+        row.Edit();
+        row[field] = value;
+        row.Update();
+    };
+    ASSERT_TRUE(row.Seek("=", "PO", 10, "REC", 12, 1));
+    spoil("QUANTITY", 400);
+    ASSERT_TRUE(row.Seek("=", "PO", 10, "REC", 13, 1));
+    spoil("LDATE", "20250101");
+    ASSERT_TRUE(row.Seek("=", "PI", 5, "PII", 0, 1));
+    spoil("ICNTAG", 77);
+    ASSERT_TRUE(row.Seek("=", "MR", 40, "MRI", 41, 1));
+    spoil("ITEMTYPE", "mri");
+    addLedgerRow(1, "PO", "RQI", 10, "20260301", 10);  // of no line
+    post("RO", 50, "ROI", 51, 1, 0, 2, "20260306");    // twice
+    addLedgerRow(1, "XX", "YYY", 1, "20260301", 10);   // of no kind
+    EXPECT_TRUE(run());
+    EXPECT_EQ(ledgerRows(), rows);
+    EXPECT_EQ(quantities(1), first);
+    row.Bookmark(right);
+    EXPECT_EQ(row["ITEMTAG"].value().toInt(), 11);
+}
+
+// An item counted twice in one inventory: the later count holds, whatever rows were there.
+TEST_F(LedgerRebuild, KeepsTheOrderOfRowsThatAreNamedAlike)
+{
+    add("PILIST",
+        {{"PITAG", 5}, {"ILCTAG", 1}, {"PIFDATE", "03/02/2026"}, {"PILDATE", "20260302"}});
+    for (const int count : {40, 41, 42})
+        add("PIITEMS", {{"PITAG", 5}, {"ISNTAG", 1}, {"PICOUNT", count}});
+    addLedgerRow(1, "PI", "PII", 5, "20260302", 42);
+    addLedgerRow(1, "PI", "PII", 5, "20260302", 40);
+    EXPECT_TRUE(run());
+    EXPECT_EQ(ledgerRows().size(), 3);
+    EXPECT_EQ(quantities(1).available, 42);
+}
+
 }  // namespace

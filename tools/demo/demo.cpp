@@ -68,12 +68,12 @@ void replayAllItems(const QString& path)
     storage::Workspace workspace = storage::CreateWorkspace("wksDEMO");
     const storage::Database zorvex = workspace.OpenDatabase(path);
     workspace.BeginTrans();
-    Recordset ledger = zorvex.OpenRecordset("INVTRANS");
+    LinesByTag ledger = ledgerByItem(zorvex.OpenRecordset("INVTRANS"));
     Recordset items = zorvex.OpenRecordset("INVENTORY");
     items.Index("INVISNTAG");
     for (items.MoveFirst(); !items.EOF(); items.MoveNext()) {
         LedgerReplay replay(postingReading);
-        forEachOfItem(ledger, items["ISNTAG"].value().toInt(), [&] { return replay.take(ledger); });
+        ledger.forEach(items["ISNTAG"].value().toInt(), [&] { return replay.takeLine(ledger); });
         items.Edit();
         store(items, replay.quantities());
         items.Update();
