@@ -4,12 +4,12 @@
 #include <QBoxLayout>
 #include <QHeaderView>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTimer>
 #include <QWheelEvent>
 
 #include "screens/browse/browse_page.h"
+#include "screens/browse/row_delegate.h"
 #include "screens/command_runner.h"
 
 namespace {
@@ -17,8 +17,6 @@ namespace {
 constexpr int twipsPerInch = 1440;
 // The place in the list is counted only when the user pauses: over many records it takes a while.
 constexpr int positionDelay = 150;
-
-constexpr QChar distance(0x2002);  // a space of half an em
 
 struct MoveKey
 {
@@ -34,23 +32,6 @@ constexpr MoveKey moveKeys[] = {
     {Qt::Key_PageUp, BrowseGrid::Move::PageUp},
     {Qt::Key_Home, BrowseGrid::Move::Home},
     {Qt::Key_End, BrowseGrid::Move::End},
-};
-
-// The highlight is the row; a single cell is never marked. Figures keep a distance from the text of
-// the next column.
-class RowDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        option->state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
-        if (option->displayAlignment & Qt::AlignRight)
-            option->text += distance;
-    }
 };
 
 int pixels(int twips, const QWidget& on)

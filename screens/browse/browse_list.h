@@ -36,6 +36,8 @@ struct BrowseLine
     QString bookmark = noBookmark;
     QStringList cells;
     RowTone tone = RowTone::Plain;
+
+    bool operator==(const BrowseLine&) const = default;
 };
 
 class BrowseList

@@ -29,6 +29,7 @@ QVariant toneBrush(RowTone tone)
 void BrowsePage::setColumns(const std::vector<GridColumn>& columns)
 {
     beginResetModel();
+    m_linesShown.clear();
     m_columns = columns;
     endResetModel();
 }
@@ -41,6 +42,7 @@ void BrowsePage::setHeading(int column, const QString& heading)
 
 void BrowsePage::setEndTexts(const QString& endOfList, const QString& listIsEmpty)
 {
+    m_linesShown.clear();
     m_endOfList = endOfList;
     m_listIsEmpty = listIsEmpty;
 }
@@ -57,8 +59,11 @@ void BrowsePage::refresh()
         m_rowsShown = rows;
         endRemoveRows();
     }
-    if (rows > 0)
-        Q_EMIT dataChanged(index(0, 0), index(rows - 1, columnCount() - 1));
+    std::vector<BrowseLine> before = std::exchange(m_linesShown, m_list.lines());
+    before.resize(m_linesShown.size());
+    for (int row = 0; row < rows; ++row)
+        if (const auto i = static_cast<size_t>(row); m_linesShown[i] != before[i])
+            Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
 
 int BrowsePage::rowCount(const QModelIndex& parent) const

@@ -14,7 +14,7 @@ public:
     void setHeading(int column, const QString& heading);
     const std::vector<GridColumn>& columns() const { return m_columns; }
     void setEndTexts(const QString& endOfList, const QString& listIsEmpty);
-    // The lines of the list have changed.
+    // The lines of the list have changed; those alone that differ are drawn anew.
     void refresh();
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -30,4 +30,5 @@ private:
     QString m_endOfList = "End of List";
     QString m_listIsEmpty = "List is Empty";
     int m_rowsShown = 0;
+    std::vector<BrowseLine> m_linesShown;
 };
