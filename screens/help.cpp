@@ -34,13 +34,25 @@ public:
     }
 };
 
+bool hasPage(const QString& page)
+{
+    return !page.isEmpty() && QFile::exists(pathOf(page));
+}
+
+// The screen of an entry has the number after its list's, whose page tells of both.
+QString listOf(const QString& screen)
+{
+    return screen.endsWith("02") ? screen.chopped(2) + "01" : QString();
+}
+
 }  // namespace
 
 QString helpPageFor(const QWidget* control)
 {
     for (; control; control = control->parentWidget()) {
-        if (!control->objectName().isEmpty() && QFile::exists(pathOf(control->objectName())))
-            return control->objectName();
+        for (const QString& page : {control->objectName(), listOf(control->objectName())})
+            if (hasPage(page))
+                return page;
         if (const QVariant page = control->property(helpPageProperty); page.isValid())
             return page.toString();
     }

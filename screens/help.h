@@ -1,7 +1,8 @@
 // F1: the help page of the screen in hand. Pages are those of the user guide (docs/guide), carried
 // in the program.
 //
-// A screen's page has the screen's system name. A screen without one has the page of its shape,
+// A screen's page has the screen's system name; that of a list tells of the list's entry screen,
+// too. A screen without one has the page of its shape,
 // which its window names in the property "helpPage"; everything else has the page of the main
 // window.
 #pragma once
