@@ -87,7 +87,7 @@ void frmVEXMAIN::buildStatusBar()
     m_user->setObjectName("lblUserName");
     m_site = new QLabel;
     m_site->setObjectName("lblJobSiteName");
-    auto* keys = new QLabel("Alt+letter: menu    Ctrl+Tab: next screen    Ctrl+F4: close screen");
+    auto* keys = new QLabel("F10: menu    Ctrl+Tab: next screen    Ctrl+F4: close screen");
     for (QLabel* label : {m_user, m_site, keys})
         label->setContentsMargins(8, 2, 8, 2);
     statusBar()->addWidget(m_user);

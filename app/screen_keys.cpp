@@ -1,7 +1,9 @@
 #include "app/screen_keys.h"
 
+#include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
+#include <QMenuBar>
 
 namespace {
 
@@ -27,7 +29,16 @@ bool ScreenKeys::eventFilter(QObject* watched, QEvent* event)
     const bool isOffer = event->type() == QEvent::ShortcutOverride;
     if ((!isOffer && event->type() != QEvent::KeyPress) || !watched->isWidgetType())
         return false;
-    QWidget* control = controlFor(*static_cast<QKeyEvent*>(event));
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget())
+        return false;
+    if (key.keyCombination() == QKeyCombination(Qt::Key_F10)) {
+        QMenuBar* menu = static_cast<QMainWindow*>(m_area->window())->menuBar();
+        if (!isOffer)
+            menu->setActiveAction(menu->actions().first());
+        return !isOffer;
+    }
+    QWidget* control = controlFor(key);
     if (!control)
         return false;
     event->accept();
@@ -42,8 +53,7 @@ bool ScreenKeys::eventFilter(QObject* watched, QEvent* event)
 QWidget* ScreenKeys::controlFor(const QKeyEvent& event) const
 {
     const QMdiSubWindow* frame = m_area->activeSubWindow();
-    if (event.modifiers() != Qt::AltModifier || !frame || QApplication::activeModalWidget() ||
-        QApplication::activePopupWidget())
+    if (event.modifiers() != Qt::AltModifier || !frame)
         return nullptr;
     const QKeySequence key(event.keyCombination());
     for (QAbstractButton* button : frame->findChildren<QAbstractButton*>())

@@ -1,5 +1,6 @@
 // Lets the keys of the screen in front go before those of the menu bar: with Alt+C a screen that
-// has a "&Cancel" cancels, although the menu has a "&Cost Structure".
+// has a "&Cancel" cancels, although the menu has a "&Cost Structure". F10 opens the first
+// menu from everywhere.
 #pragma once
 
 #include <QObject>
@@ -10,7 +11,7 @@ class QKeyEvent;
 class ScreenKeys : public QObject
 {
 public:
-    // Sees all keys of the program while it lives.
+    // Sees all keys of the program while it lives. The area stands in a QMainWindow by then.
     explicit ScreenKeys(QMdiArea* area);
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -233,6 +233,24 @@ TEST_F(MainWindowTest, TheKeysOfTheScreenInFrontGoBeforeThoseOfTheMenu)
     control<QMenu>(window, "miFile").close();
 }
 
+TEST_F(MainWindowTest, F10OpensTheFirstMenuFromAScreenAndEscGoesBack)
+{
+    load();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    entry("miNETSET").trigger();
+    QMdiSubWindow* frame = frameOf("frmNETSET");
+    ASSERT_NE(nullptr, frame);
+    QWidget* field = frame->focusWidget();
+    ASSERT_NE(nullptr, field);
+    QTest::keyClick(field, Qt::Key_F10);
+    QWidget* menu = &control<QMenu>(window, "miFile");
+    ASSERT_EQ(menu, QApplication::activePopupWidget());
+    QTest::keyClick(menu, Qt::Key_Escape);
+    EXPECT_EQ(window.menuBar(), QApplication::focusWidget());
+    QTest::keyClick(window.menuBar(), Qt::Key_Escape);
+    EXPECT_EQ(field, QApplication::focusWidget());
+}
+
 TEST_F(MainWindowTest, ScreensThatCloseThemselvesTakeTheirFrameAlong)
 {
     load();
