@@ -256,5 +256,6 @@ DataSpec frmVEXREQ02(const Session& session, const DocumentKind& kind, const Job
         .commands = {{"cmdVAdd", "&1 - Add Vendor", [](DataSession& in) { editVendor(in, true); }},
                      {"cmdVEdit", "&2 - Edit Vendor",
                       [](DataSession& in) { editVendor(in, false); }}},
+        .viewRefusal = {},
     };
 }

@@ -287,6 +287,7 @@ DataSpec frmVEXRQI02(const Session& session, const LineOwner& owner,
                                .enterTakes = Answer::No};
             },
         .commands = commands(rules),
+        .viewRefusal = {},
         .updateCaption = "Save and E&xit",
         .updateName = "cmdUpdateExit",
         .addsOnAt = "txtQTY",

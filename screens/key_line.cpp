@@ -8,7 +8,7 @@ KeyLine::KeyLine()
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 }
 
-void KeyLine::setKeys(const QList<std::pair<QString, QString>>& keys)
+void KeyLine::setKeys(const Keys& keys)
 {
     QStringList parts;
     for (const auto& [key, meaning] : keys)

@@ -8,6 +8,8 @@ class KeyLine : public QLabel
 public:
     KeyLine();
 
+    using Keys = QList<std::pair<QString, QString>>;
+
     // Pairs such as {"A", "Add"}; F1 for help is added.
-    void setKeys(const QList<std::pair<QString, QString>>& keys);
+    void setKeys(const Keys& keys);
 };

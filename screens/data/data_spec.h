@@ -54,7 +54,8 @@ struct DataSpec
     // A field that takes the focus while the record is only looked at tells that changes are not
     // allowed.
     bool refusesFocusInView = false;
-    QString viewRefusal = "Changes Not Allowed When Viewing.";  // also at Update
+    // Also at Update; blank: there is no Update in mode "V".
+    QString viewRefusal = "Changes Not Allowed When Viewing.";
     // Asked when the screen is left with changes; none: it closes without a word.
     std::optional<Message> abandonQuestion = {};
     std::optional<Message> savedMessage = {};  // told after Update

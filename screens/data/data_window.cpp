@@ -224,9 +224,13 @@ QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
 
 void DataWindow::buildCommands()
 {
-    for (const DataCommand& command : m_session.spec().commands)
-        m_commands->add(command.name, command.caption,
-                        [this, &command] { run([&] { m_session.run(command); }); });
+    for (const DataCommand& command : m_session.spec().commands) {
+        QPushButton* button = m_commands->add(command.name, command.caption, [this, &command] {
+            run([&] { m_session.run(command); });
+        });
+        if (!command.whileViewing)
+            m_whileTyping.push_back(button);
+    }
     const DataSpec& spec = m_session.spec();
     if (!spec.stayCaption.isEmpty() && m_session.isForTyping())
         m_commands->add("cmdUpdateStay", spec.stayCaption, [this] { update(true); });
@@ -260,13 +264,26 @@ void DataWindow::showState()
     m_errorBox->showErrors(m_session.entry().errors());
     setWindowTitle(m_session.caption());
     m_update->setText(m_session.updateCaption());
-    if (m_session.isForTyping())
-        m_keys->setKeys({{"Enter", "Next field"},
-                         {"?", "Search"},
-                         {"Alt+" + keyOf(m_update->text()), "Update"},
-                         {"Esc", "Leave"}});
+    m_update->setVisible(m_session.mode() != "V" || !m_session.spec().viewRefusal.isEmpty());
+    for (QPushButton* button : m_whileTyping)
+        button->setEnabled(m_session.isForTyping());
+    showKeys();
+}
+
+void DataWindow::showKeys()
+{
+    const QString update = m_update->text();
+    const std::pair<QString, QString> updateKey{"Alt+" + keyOf(update),
+                                                QString(update).remove('&')};
+    const std::pair<QString, QString> leaveKey{"Esc", "Leave"};
+    const bool isInMemo = m_entered >= 0 && m_session.entry().field(m_entered).kind == Kind::Memo;
+    if (!m_session.isForTyping())
+        m_keys->setKeys(m_session.mode() == "V" ? KeyLine::Keys{leaveKey}
+                                                : KeyLine::Keys{updateKey, leaveKey});
+    else if (isInMemo)
+        m_keys->setKeys({{"Tab", "Next field"}, {"Enter", "New line"}, updateKey, leaveKey});
     else
-        m_keys->setKeys({{"Esc", "Leave"}});
+        m_keys->setKeys({{"Enter", "Next field"}, {"?", "Search"}, updateKey, leaveKey});
 }
 
 // The field that the entry names, on its page.
@@ -283,9 +300,10 @@ void DataWindow::takeFocus()
 
 void DataWindow::fieldEntered(int at)
 {
+    m_entered = at;
+    showKeys();
     if (m_isTelling || m_session.mode() != "V" || !m_session.spec().refusesFocusInView)
         return;
-    Q_UNUSED(at)
     m_isTelling = true;
     showCritical("Changes Not Allowed", m_session.spec().viewRefusal);
     m_cancel->setFocus(Qt::OtherFocusReason);

@@ -35,6 +35,7 @@ private:
     void update(bool stays);
     void run(const std::function<void()>& command);
     void showState();
+    void showKeys();
     void takeFocus();
     void fieldEntered(int at);
     void findField(const QString& text, bool next);
@@ -48,8 +49,10 @@ private:
     QLineEdit* m_finder = nullptr;
     QPushButton* m_update = nullptr;
     QPushButton* m_cancel = nullptr;
-    std::vector<QWidget*> m_pageOf;  // of each field
+    std::vector<QPushButton*> m_whileTyping;  // commands that wait for that
+    std::vector<QWidget*> m_pageOf;           // of each field
     int m_found = -1;
+    int m_entered = -1;  // the field that had the focus last
     bool m_loaded = false;
     bool m_isTelling = false;
 };
