@@ -35,6 +35,7 @@ const HistoryScreens& screensOf(const ItemKind& kind)
 // What stands above the lines, on the screen and on paper.
 struct ItemHead
 {
+    QString branch;  // blank for the catalog, whose history is of all
     QString PARTNO;
     QString SHORTDESC;
     QString UPCCODE;
@@ -56,11 +57,13 @@ std::optional<ItemHead> headOf(const ItemKind& kind, const Session& session, qin
         return {};
     const storage::Recordset& item = items.rows;
     const QString& site = session.JobSitePath;
-    return ItemHead{.PARTNO = trimmedTextOf(item["PARTNO"]),
-                    .SHORTDESC = trimmedTextOf(item["SHORTDESC"]),
-                    .UPCCODE = trimmedTextOf(item["UPCCODE"]),
-                    .series = codeText(site, seriesCodes, intOf(item["SERIESTAG"])),
-                    .subcategory = codeText(site, subcategoryCodes, intOf(item["SUBCATTAG"]))};
+    return ItemHead{
+        .branch = kind.isOfBranch ? codeText(site, branchCodes, intOf(item["ILCTAG"])) : QString(),
+        .PARTNO = trimmedTextOf(item["PARTNO"]),
+        .SHORTDESC = trimmedTextOf(item["SHORTDESC"]),
+        .UPCCODE = trimmedTextOf(item["UPCCODE"]),
+        .series = codeText(site, seriesCodes, intOf(item["SERIESTAG"])),
+        .subcategory = codeText(site, subcategoryCodes, intOf(item["SUBCATTAG"]))};
 }
 
 OpenTable openHistory(const ItemKind& kind, const Session& session)
@@ -138,12 +141,14 @@ BrowseSpec historyList(const ItemKind& kind, const Session& session, qint32 tag)
         .print = {.run =
                       [&kind, head](BrowseSession& list) {
                           openScreen(new ReportWindow(historyPrint(kind, head), list.session()));
-                      }},
+                      },
+                  .caption = "&Print History"},
         .status =
             [head](const BrowseSession&) {
                 return "Part Number: " + head.PARTNO + "     " + head.SHORTDESC +
-                       "     UPC Code: " + head.UPCCODE + "\nSeries: " + head.series +
-                       "     Subcategory: " + head.subcategory;
+                       "     UPC Code: " + head.UPCCODE + '\n' +
+                       (head.branch.isEmpty() ? "" : "Branch: " + head.branch + "     ") +
+                       "Series: " + head.series + "     Subcategory: " + head.subcategory;
             },
     };
 }

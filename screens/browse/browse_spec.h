@@ -105,6 +105,7 @@ struct BrowsePrint
     std::function<QString(const BrowseSession&)> titleFor = {};
     // In place of the plain list.
     std::function<void(BrowseSession&)> run = {};
+    QString caption = "&Print";
 };
 
 // A table that stays open beside the list, for what cells look up: `BrowseSession::beside`.

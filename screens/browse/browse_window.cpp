@@ -114,7 +114,8 @@ QWidget* BrowseWindow::buildLevels()
         if (m_levels.size() > 1)
             rows->view()->installEventFilter(this);
     }
-    // A window that gives the keyboard on is a stop of the Tab key, which would lead past the parent.
+    // A window that gives the keyboard on is a stop of the Tab key, which would lead past the
+    // parent.
     if (!m_parent)
         setFocusProxy(&grid(0));
     return row;
@@ -149,7 +150,7 @@ void BrowseWindow::buildCommands()
                             }),
                         &command});
     if (!first.print.window.isEmpty() || first.print.run)
-        browsing("cmdPrint", "&Print", [this] { session().print(); });
+        browsing("cmdPrint", first.print.caption, [this] { session().print(); });
     m_entering.push_back({add("cmdUpdate", "&Update",
                               [this] {
                                   pane().fields().take();
