@@ -2,6 +2,7 @@
 
 #include <QButtonGroup>
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -13,6 +14,7 @@
 #include "inventory/item_codes.h"
 #include "inventory/item_vendor.h"
 #include "screens/field_keys.h"
+#include "screens/search/order_searches.h"
 #include "screens/search/search_window.h"
 #include "screens/search_field.h"
 #include "screens/selectors/job_selector.h"
@@ -33,7 +35,30 @@ QLineEdit* textEdit(const char* name, int length, bool digitsOnly)
     return edit;
 }
 
-// The options one below the other, the one of `present` chosen; the arrow keys move.
+// The keys that no field of the dialog has taken.
+class OptionKeys : public QObject
+{
+public:
+    explicit OptionKeys(QButtonGroup* options) : QObject(options), m_options(options) {}
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() != QEvent::KeyPress)
+            return false;
+        const auto* key = static_cast<QKeyEvent*>(event);
+        QAbstractButton* option = m_options->button(key->key() - Qt::Key_1);
+        if (!option || key->modifiers() & ~Qt::KeypadModifier)
+            return false;
+        option->setChecked(true);
+        option->setFocus(Qt::ShortcutFocusReason);
+        return true;
+    }
+
+private:
+    QButtonGroup* m_options;
+};
+
+// The options one below the other, the one of `present` chosen; the arrow keys move, and each has
+// its number, which is in its caption, for a key.
 QButtonGroup* addOptions(SmallDialog& dialog, const QStringList& captions, int present)
 {
     auto* group = new QButtonGroup(&dialog);
@@ -45,6 +70,7 @@ QButtonGroup* addOptions(SmallDialog& dialog, const QStringList& captions, int p
         if (i == present)
             option->setChecked(true);
     }
+    dialog.installEventFilter(new OptionKeys(group));
     group->button(std::max(present, 0))->setFocus();
     return group;
 }
@@ -109,6 +135,16 @@ std::function<QString()> requisitionNumberSearch(const Session& session, int CON
         documents.rows.Index("REQTAG");
         return tag != 0 && documents.rows.Seek("=", tag)
                    ? shownRequisitionNumber(intOf(documents.rows["REQNO"]))
+                   : QString();
+    };
+}
+
+std::function<QString()> orderNumberSearch(const Session& session)
+{
+    return [session]() -> QString {
+        OpenTable orders = openTable(session, "ZORVEX.mdb", "POLIST");
+        return goToFound(orders.rows, zorSearchPO(session.JobSitePath))
+                   ? trimmedTextOf(orders.rows["PONO"])
                    : QString();
     };
 }

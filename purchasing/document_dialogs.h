@@ -29,6 +29,9 @@ struct TextQuestion
 };
 std::optional<QString> askText(const TextQuestion& question);
 
+// Looks up the number of any purchase order; blank for none.
+std::function<QString()> orderNumberSearch(const Session& session);
+
 // frmVEXREQ05, the requisitions of a company and job: the tag of the one that is chosen, 0 for
 // none.
 qint32 searchRequisitions(const Session& session, int CONO, const QString& JOBNO);

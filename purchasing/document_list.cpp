@@ -171,7 +171,7 @@ void find(BrowseSession& list, ListState& state)
                  .label = kind.isOrder() ? "&PO Number:" : "&Requisition Number:",
                  .control = kind.isOrder() ? "txtPONO" : "txtREQNO",
                  .length = kind.isOrder() ? 16 : 5,
-                 .search = kind.isOrder() ? nullptr : searchInJob(list),
+                 .search = kind.isOrder() ? orderNumberSearch(list.session()) : searchInJob(list),
                  .accepts = isThere}))
         showDocument(list, state, tag);
 }

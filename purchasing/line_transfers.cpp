@@ -48,6 +48,7 @@ void postToExistingOrder(BrowseSession& list, LineListState& state)
                                  .label = "&PO Number:",
                                  .control = "txtPONO",
                                  .length = 16,
+                                 .search = orderNumberSearch(session),
                                  .accepts = [&](const QString& text) {
                                      order = orderOfNumber(session, text);
                                      return order.has_value();

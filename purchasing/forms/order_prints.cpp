@@ -128,6 +128,7 @@ bool printOrder(ReportRun& run, OrderForm form, const FormSettings& settings, qi
     }
     FormDocument document = orderDocument(run.session(), orders.rows);
     run.showStatus("Now Printing PO Number: " + document.number);
+    run.pages.addToName("PO " + document.number);
     setNumbers(document, settings,
                settings.printsGroupA ? firstCostCodeA(run.session(), POTAG) : QString());
     if (form == OrderForm::Status || form == OrderForm::Billing)

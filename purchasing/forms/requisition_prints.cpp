@@ -48,6 +48,7 @@ bool draw(ReportRun& run, const Form& form, const FormSettings& settings,
 void tellProgress(ReportRun& run, const FormDocument& document)
 {
     run.showStatus("Now Printing Requisition Number: " + document.requisitionNumber);
+    run.pages.addToName("Requisition " + document.requisitionNumber);
 }
 
 void printRequisitions(ReportRun& run, qint32 REQTAG)

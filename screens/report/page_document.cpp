@@ -36,9 +36,19 @@ void PageDocument::startDocument()
     m_fonts.clear();
     m_boxStyles.clear();
     m_pictures.clear();
+    m_name.clear();
     m_isOpen = true;
     newPage();
     m_previewPage = 1;
+}
+
+void PageDocument::addToName(const QString& content)
+{
+    constexpr char others[] = " and others";
+    if (m_name.isEmpty())
+        m_name = content;
+    else if (!m_name.endsWith(others))
+        m_name += others;
 }
 
 void PageDocument::newPage()

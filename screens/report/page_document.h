@@ -110,6 +110,10 @@ public:
     void startDocument();
     void newPage();
     void endDocument();
+    // What a file of it is called, of what it holds: that, and after a second one "and others".
+    // Blank until then.
+    void addToName(const QString& content);
+    const QString& name() const { return m_name; }
     bool isOpen() const { return m_isOpen; }
     int pageCount() const { return static_cast<int>(m_pages.size()); }
     int currentPage() const { return pageCount(); }
@@ -156,6 +160,7 @@ private:
 
     PaperSize m_paper;
     bool m_isLandscape = false;
+    QString m_name;
     bool m_isOpen = false;
     int m_previewPage = 0;
     int m_x = 0;

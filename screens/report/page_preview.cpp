@@ -108,5 +108,5 @@ void PagePreview::print()
 void PagePreview::savePdf()
 {
     if (m_pdf->isEnabled())
-        ::savePdf(m_document, m_documentName);
+        ::savePdf(m_document, m_document.name().isEmpty() ? m_documentName : m_document.name());
 }

@@ -14,7 +14,8 @@ class QSlider;
 class PagePreview : public QWidget
 {
 public:
-    // The document stays the caller's. `documentName` is offered as the name of a PDF file.
+    // The document stays the caller's. `documentName` is offered as the name of a PDF file of one
+    // that has no name.
     PagePreview(PageDocument& document, const QString& documentName);
 
     // After the document has got more pages, or the previewed page is another.

@@ -50,11 +50,12 @@ ReportWindow::~ReportWindow()
     delete m_fields;
 }
 
-// The first field, or Begin where the report has none.
+// The first field, not a button among them, or Begin where the report has none.
 void ReportWindow::focusFirst()
 {
     QWidget* first = m_fields->nextInFocusChain();
-    while (m_fields->isAncestorOf(first) && !(first->focusPolicy() & Qt::TabFocus))
+    while (m_fields->isAncestorOf(first) &&
+           (!(first->focusPolicy() & Qt::TabFocus) || qobject_cast<QPushButton*>(first)))
         first = first->nextInFocusChain();
     (m_fields->isAncestorOf(first) ? first
      : !m_begins.empty()           ? m_begins.front()

@@ -258,6 +258,38 @@ TEST_F(LineDialogs, TheFindOfTheListSearchesTheJobUnderTheHighlight)
     });
 }
 
+TEST_F(LineDialogs, TheFindOfTheOrdersLooksNumbersUp)
+{
+    for (const auto& [tag, number] : {std::pair(31, "P-100"), {32, "P-200"}})
+        add("POLIST", {{"POTAG", tag}, {"PONO", number}, {"CONO", 1}, {"JOBNO", "    4711"}});
+    window = std::make_unique<BrowseWindow>(frmVEXPO01(), ScreenContext{.session = session});
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    key(Qt::Key_I, "frmVEXPO02", "Find a PO Number", [&](QDialog& dialog) {
+        whenModalOpens([](QDialog& search) {
+            QTest::keyClicks(search.focusWidget(), "P-2");
+            QTest::keyClick(search.focusWidget(), Qt::Key_Return);
+        });
+        auto& number = control<QLineEdit>(dialog, "txtPONO");
+        QTest::keyClick(&number, Qt::Key_Question, Qt::ShiftModifier);
+        EXPECT_EQ(number.text(), "P-200");
+        QTest::keyClick(&number, Qt::Key_Return);
+    });
+    EXPECT_EQ(window->session().currentTag(), 32);
+    // The digit of an option chooses it, but in a field it is typed.
+    key(Qt::Key_F, "frmVEXREQ12", "PO Filter Options", [&](QDialog& dialog) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_3);
+        EXPECT_TRUE(control<QRadioButton>(dialog, "optOption3").isChecked());
+        EXPECT_EQ(dialog.focusWidget(), &control<QRadioButton>(dialog, "optOption3"));
+        auto& vendor = control<QLineEdit>(dialog, "txtVENNO");
+        vendor.setFocus();
+        QTest::keyClick(&vendor, Qt::Key_1);
+        EXPECT_EQ(vendor.text(), "1");
+        EXPECT_TRUE(control<QRadioButton>(dialog, "optOption3").isChecked());
+        escape(dialog);
+    });
+}
+
 TEST_F(LineDialogs, PromisedAndRequiredDatesAreKeptAsTyped)
 {
     addRequisition(0);

@@ -296,9 +296,11 @@ TEST_F(DocumentPrints, MarkedDocumentsPrintByNumberAndElseTheCurrentOne)
     ASSERT_EQ(pages.pageCount(), 2);
     EXPECT_TRUE(has(pages, 1, "PO-2") && has(pages, 2, "PO-3"));
     EXPECT_TRUE(has(pages, 1, "No Line Items Found."));
+    EXPECT_EQ(pages.name(), "PO PO-2 and others");
     clearMarks(session, purchaseOrders);
     pages = printBy(frmVEXPO04(orderTag), 0);
     EXPECT_TRUE(pages.pageCount() == 1 && has(pages, 1, "PO-1"));
+    EXPECT_EQ(pages.name(), "PO PO-1");
 
     user.expect("Cannot Find PO", "Cannot Find Target Purchase Order Tag: 77");
     printBy(frmVEXPO04(77), 0);
@@ -360,6 +362,7 @@ TEST_F(DocumentPrints, ADigitPrintsItsFormOnTheScreen)
     ReportWindow window(frmVEXPO04(orderTag), session);
     window.show();
     EXPECT_EQ(labelText(window, "lblPONTITLE"), "<No Text Found>");
+    EXPECT_NE(window.focusWidget(), &control<QPushButton>(window, "cmdChangeText"));
     QTest::keyClick(&window, Qt::Key_5);
     EXPECT_EQ(labelText(window, "lblProcess"), "Report Ready to Print");
 }
