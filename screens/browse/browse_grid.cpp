@@ -207,6 +207,19 @@ bool BrowseGrid::takeMoveKey(int key)
     return false;
 }
 
+// Left and Right by themselves are moves; with Ctrl they show columns that the window cuts.
+bool BrowseGrid::takeSidewaysKey(const QKeyEvent& key)
+{
+    const bool isLeft = key.key() == Qt::Key_Left;
+    if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::ControlModifier ||
+        (!isLeft && key.key() != Qt::Key_Right))
+        return false;
+    QScrollBar* bar = m_view->horizontalScrollBar();
+    const int step = m_view->viewport()->width() / 4;
+    bar->setValue(bar->value() + (isLeft ? -step : step));
+    return true;
+}
+
 void BrowseGrid::act()
 {
     if (m_movesEnabled)
@@ -317,6 +330,8 @@ bool BrowseGrid::eventFilter(QObject* watched, QEvent* event)
             copyList();
             return true;
         }
+        if (takeSidewaysKey(*key))
+            return true;
         if (key->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier))
             return false;
         if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {

@@ -85,6 +85,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool takeSidewaysKey(const QKeyEvent& key);
     void showMessageRow();
     void takeRoom();
     bool clicked(const QPoint& at, bool isDouble);
@@ -107,5 +108,5 @@ private:
     bool m_settingWidths = false;
     int m_messageRow = -1;
     int m_wishedWidth = 0;  // of all columns
-    int m_wheel = 0;  // eighths of a degree not used up
+    int m_wheel = 0;        // eighths of a degree not used up
 };

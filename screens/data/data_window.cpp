@@ -35,6 +35,22 @@ public:
         const int bar = verticalScrollBar()->sizeHint().width();
         return widget() ? widget()->sizeHint() + QSize(bar, 4) : QScrollArea::sizeHint();
     }
+    // All of a control, with some room around it.
+    void showWhole(QWidget* control)
+    {
+        constexpr int room = 6;
+        ensureWidgetVisible(control, room, room);
+    }
+
+protected:
+    // The box of errors takes room from the form while a field has the keyboard.
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QScrollArea::resizeEvent(event);
+        QWidget* focused = widget() ? widget()->focusWidget() : nullptr;
+        if (focused && focused->hasFocus())
+            showWhole(focused);
+    }
 };
 
 // How many rows of a form a field takes.
@@ -298,9 +314,15 @@ void DataWindow::takeFocus()
         (m_session.mode() == "D" ? m_update : m_cancel)->setFocus(Qt::OtherFocusReason);
 }
 
+void DataWindow::showWhole(int at)
+{
+    static_cast<FormArea*>(m_pageOf[static_cast<size_t>(at)])->showWhole(m_fields->control(at));
+}
+
 void DataWindow::fieldEntered(int at)
 {
     m_entered = at;
+    showWhole(at);
     showKeys();
     if (m_isTelling || m_session.mode() != "V" || !m_session.spec().refusesFocusInView)
         return;
@@ -326,8 +348,7 @@ void DataWindow::findField(const QString& text, bool next)
         if (m_pages)
             m_pages->setCurrentWidget(m_pageOf[static_cast<size_t>(at)]);
         QWidget* control = m_fields->control(at);
-        if (auto* area = qobject_cast<QScrollArea*>(m_pageOf[static_cast<size_t>(at)]))
-            area->ensureWidgetVisible(control);
+        showWhole(at);
         if (next)
             control->setFocus(Qt::OtherFocusReason);
         return;

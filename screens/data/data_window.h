@@ -37,6 +37,7 @@ private:
     void showState();
     void showKeys();
     void takeFocus();
+    void showWhole(int at);
     void fieldEntered(int at);
     void findField(const QString& text, bool next);
 

@@ -113,6 +113,21 @@ TEST_F(BrowseGridTest, WheelMovesRows)
     EXPECT_EQ(codeInHand(), "003");
 }
 
+TEST_F(BrowseGridTest, CtrlWithAnArrowShowsWhatTheWindowCuts)
+{
+    grid.setColumns({{"Code", 4000}, {"Description", 14000}, {"Last", 2000}});
+    const QScrollBar& bar = *grid.view()->horizontalScrollBar();
+    const QString before = codeInHand();
+    for (int i = 0; i < 20; ++i)
+        QTest::keyClick(grid.view(), Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_GT(bar.value(), 0);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    for (int i = 0; i < 20; ++i)
+        QTest::keyClick(grid.view(), Qt::Key_Left, Qt::ControlModifier);
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(codeInHand(), before);
+}
+
 TEST_F(BrowseGridTest, CopiesTheWholeListAsTabSeparatedText)
 {
     list.pageDown();
