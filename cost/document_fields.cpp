@@ -113,7 +113,7 @@ EntryField requisitionTypeField(const Session& session)
     return {.kind = Kind::Choice,
             .name = "cboREQTYPE",
             .field = "REQTYPE",
-            .caption = "Re&quisition Type:",
+            .caption = "Requisitio&n Type:",
             .choices = requisitionTypes(session)};
 }
 
@@ -127,7 +127,7 @@ std::vector<EntryField> deliveryFields()
          .searchName = "cmdSHIPTO"},
         {.name = "txtSHIPVIA",
          .field = "SHIPVIA",
-         .caption = "Ship &Via:",
+         .caption = "S&hip Via:",
          .search = searchText(zorSearchShipVia, "SHIPVIAITEMS", "SHIPVIA"),
          .searchName = "cmdSHIPVIA"},
         {.name = "txtFOB", .field = "FOB", .caption = "&FOB:"},

@@ -76,7 +76,7 @@ EntryField overrideField(const DocumentKind& kind, const JobNoFormat& format)
     return {.kind = Kind::Box,
             .name = "ckbPOAFOverRide",
             .field = head::overridden,
-            .caption = "&Override PO #   Auto Format ",
+            .caption = "Ove&rride PO #   Auto Format ",
             .left = renumbers(kind, format)};
 }
 

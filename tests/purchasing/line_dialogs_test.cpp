@@ -3,6 +3,7 @@
 #include "purchasing/document_head.h"
 #include "purchasing/document_list.h"
 #include "purchasing/line_list.h"
+#include "purchasing/line_screen.h"
 #include "screens/browse/browse_grid.h"
 #include "screens/browse/browse_window.h"
 #include "screens/data/data_window.h"
@@ -288,6 +289,39 @@ TEST_F(LineDialogs, TheFindOfTheOrdersLooksNumbersUp)
         EXPECT_TRUE(control<QRadioButton>(dialog, "optOption3").isChecked());
         escape(dialog);
     });
+}
+
+// Alt and a letter go to one control of the screens in which documents are entered.
+TEST_F(LineDialogs, NoTwoControlsOfAnEntryScreenShareAKey)
+{
+    addRequisition(1);
+    add("POLIST", {{"POTAG", 31}, {"PONO", "P-1"}, {"CONO", 1}, {"JOBNO", "    4711"}});
+    const auto keysOf = [](const QWidget& screen) {
+        QStringList keys;
+        for (const auto* label : screen.findChildren<QLabel*>())
+            if (label->buddy())
+                keys.append(QKeySequence::mnemonic(label->text()).toString());
+        for (const auto* button : screen.findChildren<QAbstractButton*>())
+            keys.append(QKeySequence::mnemonic(button->text()).toString());
+        keys.removeAll("");
+        keys.sort();
+        return keys;
+    };
+    for (const DocumentKind* kind : {&requisitions, &purchaseOrders}) {
+        const int tag = kind->isOrder() ? 31 : 10;
+        const DataWindow head(
+            frmVEXREQ02(session, *kind, {"C", 8}), session,
+            {.mode = "E", .index = kind->byTag, .keys = {{kind->tag, tag}}, .tag = tag});
+        const DataWindow line(
+            frmVEXRQI02(session, *lineOwnerOf(session, *kind, tag), std::make_shared<bool>(false)),
+            session, {.mode = "A", .parent = {{kind->tag, tag}}});
+        for (const QWidget* screen : {&head, &line}) {
+            QStringList keys = keysOf(*screen);
+            EXPECT_GT(keys.size(), 10);
+            const QString all = keys.join(' ');
+            EXPECT_EQ(keys.removeDuplicates(), 0) << qPrintable(all);
+        }
+    }
 }
 
 TEST_F(LineDialogs, PromisedAndRequiredDatesAreKeptAsTyped)
