@@ -123,6 +123,34 @@ TEST_F(DataWindows, BeginInTheFirstFieldThatLives)
     EXPECT_EQ(focused(), "cboTYPE") << "else the keyboard stays in the screen before";
 }
 
+TEST_F(DataWindows, ShowTheWholeFieldThatHasTheKeyboard)
+{
+    DataSpec spec = settingsScreen();
+    std::vector<EntryField>& fields = spec.sections[0].fields;
+    for (const schema::FieldName field :
+         std::vector<schema::FieldName>{"VEXCOL2TXT", "VEXCOL10TXT", "VEXCOL11TXT"})
+        fields.insert(fields.begin(), {.name = "txtTEXT", .field = field, .caption = "Text"});
+    fields.back().check = [](const Entry&) { return QString("One\nTwo\nThree"); };
+    spec.sections.resize(1);
+    spec.hasFieldSearch = false;
+    DataWindow window(spec, context.session, {.mode = "E"});
+    show(window);
+    window.resize(window.width(), 190);
+    auto& last = control<QComboBox>(window, "cboTYPE");
+    last.setFocus(Qt::OtherFocusReason);
+    QCoreApplication::processEvents();
+    const auto isWhole = [&] {
+        return last.visibleRegion().boundingRect().height() == last.height();
+    };
+    EXPECT_TRUE(isWhole());
+    user.expect("Cannot Update", "Errors Detected: \n\nOne\nTwo\nThree");
+    press(window, "cmdUpdate");
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(control<QFrame>(window, "tqErrorBox1").isVisible());
+    EXPECT_EQ(focused(), "cboTYPE");
+    EXPECT_TRUE(isWhole()) << "the errors have taken room";
+}
+
 TEST_F(DataWindows, AreForReadingWhenTheRecordIsOnlyViewed)
 {
     DataSpec spec = settingsScreen();
