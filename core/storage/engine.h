@@ -77,6 +77,9 @@ private:
     std::vector<char> m_arena;
 };
 
+// A fetched block holds no more than this, so that a handle stays small however long the memos are.
+inline constexpr size_t maximumBlockBytes = 256 * 1024;
+
 enum class Direction : qint8 { Forward = 1, Backward = -1 };
 
 // Where a block begins. `key` has values for the first fields of the index, already in the fields'

@@ -30,8 +30,10 @@ struct ScanState
     }
     void prepare();
     void fetch();
-    bool settle();
-    Value valueAt(int position) const;
+    void readBlock();
+    bool isFull() const;
+    void noteEnd();
+    Value valueAt(const RowBlock& rows, int at, const ColumnLayout& of, int position) const;
 
     std::shared_ptr<DatabaseState> database;
     QString tableName;
@@ -42,10 +44,16 @@ struct ScanState
     int index = -1;
     quint64 definitions = 0;
     std::vector<int> keyFields;
-    std::shared_ptr<const ColumnLayout> layout;
+    // The fields named stand in the same columns of both. The key of a block's last record alone is
+    // wanted, so that most blocks come without keys.
+    std::shared_ptr<const ColumnLayout> lean;
+    std::shared_ptr<const ColumnLayout> withKeys;
+    bool hasKeys = false;         // the block in hand
+    bool isLast = false;          // nothing follows it
     std::vector<size_t> columns;  // of the fields named
 
     RowBlock block;
+    RowBlock last;
     int row = 0;
     int limit = firstRows;
     std::vector<Value> key;
@@ -78,18 +86,19 @@ void ScanState::prepare()
                                      static_cast<qsizetype>(name.text().size())));
         wanted.push_back(position);
     }
-    const auto named = layoutWith(nullptr, table->fields.size(), wanted);
+    lean = layoutWith(nullptr, table->fields.size(), wanted);
     columns.clear();
     for (const int position : wanted)
-        columns.push_back(static_cast<size_t>(named->columnOf[static_cast<size_t>(position)]));
-    layout = layoutWith(named.get(), table->fields.size(), keyFields);
+        columns.push_back(static_cast<size_t>(lean->columnOf[static_cast<size_t>(position)]));
+    withKeys = layoutWith(lean.get(), table->fields.size(), keyFields);
 }
 
-void ScanState::fetch()
+// The block that goes on from the key.
+void ScanState::readBlock()
 {
     for (bool again = false;; again = true) {
         try {
-            const auto plan = engine().plan(table, index, layout->columns);
+            const auto plan = engine().plan(table, index, (hasKeys ? withKeys : lean)->columns);
             engine().fetch(*plan, Direction::Forward, {.key = key, .id = id}, limit, block);
         } catch (const StorageError& error) {
             if (again || error.errorNumber() != ErrorNumber::Internal ||
@@ -102,28 +111,49 @@ void ScanState::fetch()
             break;
         prepare();
     }
+}
+
+void ScanState::fetch()
+{
     row = 0;
+    hasKeys = false;
+    readBlock();
+    if (isFull() && !keyFields.empty()) {
+        const auto plan = engine().plan(table, index, withKeys->columns);
+        engine().fetchRecord(*plan, block.id(block.rowCount() - 1), last);
+        // Somebody wrote meanwhile: the record's key may not be what it was in the block.
+        if (last.rowCount() == 0 || last.version != block.version) {
+            hasKeys = true;
+            readBlock();
+        }
+    }
+    noteEnd();
     limit = std::min(limit * 4, mostRows);
 }
 
-Value ScanState::valueAt(int position) const
+bool ScanState::isFull() const
 {
-    const auto column = static_cast<size_t>(layout->columnOf[static_cast<size_t>(position)]);
-    return block.value(row, column, table->fields[static_cast<size_t>(position)].type);
+    return block.rowCount() >= limit || block.byteCount() >= maximumBlockBytes;
+}
+
+Value ScanState::valueAt(const RowBlock& rows, int at, const ColumnLayout& of, int position) const
+{
+    const auto column = static_cast<size_t>(of.columnOf[static_cast<size_t>(position)]);
+    return rows.value(at, column, table->fields[static_cast<size_t>(position)].type);
 }
 
 // Notes where the block ends, for the next one.
-bool ScanState::settle()
+void ScanState::noteEnd()
 {
-    if (block.rowCount() == 0)
-        return false;
-    row = block.rowCount() - 1;
-    id = block.id(row);
+    isLast = !isFull();
+    if (isLast)
+        return;
+    const int end = block.rowCount() - 1;
+    id = block.id(end);
     key.clear();
     for (const int field : keyFields)
-        key.push_back(valueAt(field));
-    row = 0;
-    return true;
+        key.push_back(hasKeys ? valueAt(block, end, *withKeys, field)
+                              : valueAt(last, 0, *withKeys, field));
 }
 
 Scan::Scan(const Recordset& rows, std::initializer_list<schema::FieldName> fields)
@@ -143,7 +173,7 @@ bool Scan::start(std::span<const Value> keys)
         scan.key.push_back(
             asKey(scan.table->fields[static_cast<size_t>(scan.keyFields[i])], keys[i]));
     scan.fetch();
-    return scan.settle();
+    return scan.block.rowCount() > 0;
 }
 
 bool Scan::next()
@@ -151,10 +181,12 @@ bool Scan::next()
     ScanState& scan = *m_state;
     if (++scan.row < scan.block.rowCount())
         return true;
-    if (scan.block.rowCount() == 0)
+    if (scan.isLast) {
+        scan.block.start(0);
         return false;
+    }
     scan.fetch();
-    return scan.settle();
+    return scan.block.rowCount() > 0;
 }
 
 qint64 Scan::integer(size_t field) const

@@ -65,9 +65,6 @@ private:
     SqliteStatement m_byId;
 };
 
-// A block holds no more than this, so that a handle stays small however long the memos are.
-inline constexpr size_t maximumBlockBytes = 256 * 1024;
-
 template <class AtFirstRow>
 void SqliteFetch::collect(SqliteStatement& statement, int limit, RowBlock& block,
                           AtFirstRow& atFirstRow)
