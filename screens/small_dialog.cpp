@@ -1,5 +1,8 @@
 #include "screens/small_dialog.h"
 
+#include <QApplication>
+#include <QWindow>
+
 #include "screens/command_runner.h"
 
 SmallDialog::SmallDialog(const QString& name, const QString& caption)
@@ -96,4 +99,16 @@ void SmallDialog::reject()
         m_escape->click();
     else
         QDialog::reject();
+}
+
+// A dialog of its own belongs to the window from which it was opened: it stands in that window's
+// middle, and does not fall behind it.
+void SmallDialog::showEvent(QShowEvent* event)
+{
+    QDialog::showEvent(event);
+    QWidget* below = QApplication::activeWindow();
+    if (event->spontaneous() || parentWidget() || !below || below == this)
+        return;
+    windowHandle()->setTransientParent(below->windowHandle());
+    adjustPosition(below);
 }

@@ -38,6 +38,9 @@ public:
 
     void reject() override;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
     QFormLayout* m_rows;
     QHBoxLayout* m_buttons;

@@ -275,6 +275,23 @@ TEST_F(SmallDialogs, AFolderIsPickedInThePicker)
               QFileInfo(site.userFolder()).path());
 }
 
+TEST_F(SmallDialogs, StandInTheMiddleOfTheWindowThatOpensThemAndInFrontOfIt)
+{
+    QWidget below;
+    below.setGeometry(150, 150, 600, 440);
+    below.show();
+    below.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&below));
+    const auto note = frmDNNETNoAccess("pat", "Purchase Orders");
+    whenModalOpens([&](QDialog& box) {
+        EXPECT_EQ(box.windowHandle()->transientParent(), below.windowHandle());
+        const QPoint apart = box.geometry().center() - below.geometry().center();
+        EXPECT_LT(apart.manhattanLength(), 40) << "not in the middle";
+        press(box, "cmdOK");
+    });
+    note->exec();
+}
+
 TEST_F(SmallDialogs, UpdateHistoryShowsBothStamps)
 {
     const auto note =
