@@ -39,7 +39,12 @@ frmVEXINVCALC::frmVEXINVCALC(Session session)
     changes->setMinimumWidth(560);
     addAcross(changes);
     m_start = addButton("cmdRecalculate", "&Refresh Inventory Transactions", [this] { refresh(); });
-    m_exit = addClosingButton("CmdExit", "E&xit");
+    m_exit = addButton("CmdExit", "E&xit", [this] {
+        if (m_isRunning)
+            m_isCancelled = true;
+        else
+            done(Rejected);
+    });
     escTakes(m_exit);
 }
 
@@ -81,11 +86,11 @@ bool frmVEXINVCALC::proceed()
 {
     constexpr qint64 longestHold = 20;  // milliseconds
     ++m_rows;
-    if (m_sinceShown.elapsed() < longestHold)
+    if (m_sinceShown.isValid() && m_sinceShown.elapsed() < longestHold)
         return !m_isCancelled;
     m_progress->setValue(static_cast<int>(m_rows % 1000) + 1);
     QCoreApplication::processEvents();
-    m_sinceShown.restart();
+    m_sinceShown.start();
     return !m_isCancelled;
 }
 
@@ -94,18 +99,10 @@ void frmVEXINVCALC::setRunning(bool isRunning)
     m_isRunning = isRunning;
     m_isCancelled = false;
     m_rows = 0;
-    m_sinceShown.start();
+    m_sinceShown.invalidate();  // the first row shows that work has begun
     m_progress->setValue(0);
     m_start->setEnabled(!isRunning);
     m_branch->setEnabled(!isRunning);
     m_exit->setText(isRunning ? "&Cancel" : "E&xit");
     m_exit->setFocus();
-}
-
-void frmVEXINVCALC::reject()
-{
-    if (m_isRunning)
-        m_isCancelled = true;
-    else
-        SmallDialog::reject();
 }

@@ -14,8 +14,6 @@ class frmVEXINVCALC : public SmallDialog
 public:
     explicit frmVEXINVCALC(Session session);
 
-    void reject() override;
-
 private:
     void saveBranch();
     void refresh();
