@@ -66,7 +66,11 @@ public:
     }
     std::optional<qint32> subcategory(qint32 tag, qint32 series)
     {
-        return tag == 0 || series == 0 ? 0 : mapped(m_subcategories, subcategoryCodes, tag, series);
+        if (tag != 0 && series != 0)
+            return mapped(m_subcategories, subcategoryCodes, tag, series);
+        if (tag != 0 && !codeRowAt(m_site, subcategoryCodes, tag))
+            return {};
+        return 0;
     }
 
 private:
@@ -325,8 +329,6 @@ NumberRefresh refreshPartNumbers(const QString& jobSitePath,
             return result;
         }
         const qint32 ISNTAG = intOf(rows["ISNTAG"]);
-        if (ISNTAG == 0 && intOf(rows["ICNTAG"]) != 0)
-            continue;
         const QString PARTNO = trimmedTextOf(rows["PARTNO"]);
         if (!items.rows.Seek("=", ISNTAG)) {
             log("Cannot Find Inventory Item for: " + PARTNO);

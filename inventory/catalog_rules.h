@@ -39,7 +39,7 @@ struct NumberRefresh
     bool isComplete = false;
 };
 // Gives each number of an item the item's branch. `log` gets a line for each number that was
-// wrong; numbers of the catalog stay.
+// wrong, and for each that has no item, which those of the catalog have not.
 NumberRefresh refreshPartNumbers(const QString& jobSitePath,
                                  const std::function<void(const QString&)>& log,
                                  const std::function<bool()>& proceed);

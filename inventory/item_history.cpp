@@ -46,7 +46,7 @@ struct ItemHead
 QString codeText(const QString& jobSitePath, const CodeTable& codes, qint32 tag)
 {
     const auto row = codeRowAt(jobSitePath, codes, tag);
-    return row ? row->code + " - " + row->name : QString();
+    return row ? row->code + " - " + row->name : QString("??? - ?????");
 }
 
 std::optional<ItemHead> headOf(const ItemKind& kind, const Session& session, qint32 tag)

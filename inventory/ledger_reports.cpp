@@ -37,12 +37,17 @@ public:
     }
     qint32 tag(schema::FieldName field) const { return items[field].value().toInt(); }
     QString seriesCode() { return series.of(tag("SERIESTAG")).value_or(""); }
+    // Blank where none was chosen, question marks where it is gone.
+    static QString numberOf(FieldByTag& numbers, qint32 tag)
+    {
+        return tag == 0 ? QString() : numbers.of(tag).value_or("??????");
+    }
     // The item's fields that both buffers have.
     void copyItem(storage::Recordset& buffer)
     {
         buffer["PARTNO"] = items["PARTNO"].value();
-        buffer["SERIESCODE"] = seriesCode();
-        buffer["SUBCATCODE"] = subcategories.of(tag("SUBCATTAG")).value_or("");
+        buffer["SERIESCODE"] = series.of(tag("SERIESTAG")).value_or("???");
+        buffer["SUBCATCODE"] = subcategories.of(tag("SUBCATTAG")).value_or("????");
         buffer["SHORTDESC"] = items["SHORTDESC"].value();
     }
 
@@ -154,8 +159,8 @@ void IssueSummary::takeItem()
           schema::FieldName("Maximum"), schema::FieldName("AVAILABLE"),
           schema::FieldName("ONORDER"), schema::FieldName("WHOLESALE")})
         row[field] = m_stock.items[field].value();
-    row["BINNO"] = m_stock.bins.of(m_stock.tag("BINTAG")).value_or("");
-    row["VENNO"] = m_stock.vendors.of(m_stock.tag("VENTAG")).value_or("");
+    row["BINNO"] = StockFile::numberOf(m_stock.bins, m_stock.tag("BINTAG"));
+    row["VENNO"] = StockFile::numberOf(m_stock.vendors, m_stock.tag("VENTAG"));
     row["ISSUED"] = double(period.sum);
     row["MONTHTODATE"] = double(month.sum);
     row["LASTMONTH"] = double(lastMonth.sum);

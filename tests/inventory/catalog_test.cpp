@@ -171,7 +171,8 @@ TEST_F(Catalog, RefreshGivesNumbersTheBranchOfTheirItem)
     const NumberRefresh result = refreshPartNumbers(site.siteFolder(), add, [] { return true; });
     EXPECT_TRUE(result.isComplete);
     EXPECT_EQ(result.updated, 1);
-    EXPECT_EQ(log, (QStringList{"Updated: P-1", "Cannot Find Inventory Item for: P-GONE"}));
+    EXPECT_EQ(log, (QStringList{"Updated: P-1", "Cannot Find Inventory Item for: P-GONE",
+                                "Cannot Find Inventory Item for: P-CAT"}));
     EXPECT_EQ(rows("INVPNMASTER", {"ILCTAG", "PARTNO"}),
               (QStringList{"1|P-1", "1|P-RIGHT", "1|P-GONE", "0|P-CAT"}));
     EXPECT_FALSE(refreshPartNumbers(site.siteFolder(), add, [] { return false; }).isComplete);

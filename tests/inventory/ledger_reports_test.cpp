@@ -15,15 +15,16 @@ protected:
         add("SERIESCODES", {{"SERIESTAG", 4}, {"ILCTAG", 1}, {"SERIESCODE", "010"}});
         addPart(1, "A-1", 1);
         addPart(2, "B-2", 1);
-        addPart(3, "C-3", 1);
+        addPart(3, "C-3", 1, 9);
         addPart(4, "B-2", 2);
     }
-    void addPart(int isnTag, const char* part, int branch) const
+    void addPart(int isnTag, const char* part, int branch, int bin = 0) const
     {
         add("INVENTORY", {{"ISNTAG", isnTag},
                           {"ILCTAG", branch},
                           {"PARTNO", part},
                           {"SERIESTAG", 4},
+                          {"BINTAG", bin},
                           {"RETAIL", 2.5},
                           {"WHOLESALE", 1.115}});
     }
@@ -54,7 +55,7 @@ protected:
                                       .activity = activity},
                                      buffer, [] { return true; }));
         return rowsOf(buffer, {"SERIESCODE", "PARTNO", "ISSUED", "MONTHTODATE", "LASTMONTH",
-                               "LAST12MONTHS", "MONTHAVERAGE", "EXTCOST"});
+                               "LAST12MONTHS", "MONTHAVERAGE", "EXTCOST", "BINNO"});
     }
 };
 
@@ -73,10 +74,10 @@ TEST_F(LedgerReports, TransactionHistoryBeginsBalancesBeforeItsDates)
                                         .beginLDATE = "20260302",
                                         .endLDATE = "20260303"},
                                        buffer, [] { return true; }));
-    EXPECT_EQ(rowsOf(buffer, {"LINENO", "PARTNO", "SERIESCODE", "DOCDESC", "DOCNO", "AVAILABLE",
-                              "UNITPRICE", "AMOUNT"}),
-              (QStringList{"1|B-2|010|Material Release Report|?????????|16|2.5|10",
-                           "2|B-2|010|Unknown Document: MI||16|2.5|10"}));
+    EXPECT_EQ(rowsOf(buffer, {"LINENO", "PARTNO", "SERIESCODE", "SUBCATCODE", "DOCDESC", "DOCNO",
+                              "AVAILABLE", "UNITPRICE", "AMOUNT"}),
+              (QStringList{"1|B-2|010|????|Material Release Report|?????????|16|2.5|10",
+                           "2|B-2|010|????|Unknown Document: MI||16|2.5|10"}));
 }
 
 TEST_F(LedgerReports, IssueSummaryAddsRepairOrdersUpByPeriod)
@@ -92,8 +93,8 @@ TEST_F(LedgerReports, IssueSummaryAddsRepairOrdersUpByPeriod)
         addLedgerRow(1, "RO", "ROI", ++order, use.date, use.quantity);
     addLedgerRow(1, "MI", "MII", 1, "20260301", 9);
     addLedgerRow(2, "IA", "IAI", 1, "20260301", 9);
-    const QString active = "010|A-1|12|4|28|128|10.67|13.38";
-    const QStringList others = {"010|B-2|0|0|0|0|0|0", "010|C-3|0|0|0|0|0|0"};
+    const QString active = "010|A-1|12|4|28|128|10.67|13.38|";
+    const QStringList others = {"010|B-2|0|0|0|0|0|0|", "010|C-3|0|0|0|0|0|0|??????"};
     EXPECT_EQ(summary(IssueActivity::All), QStringList{active} + others);
     EXPECT_EQ(summary(IssueActivity::OnlyWith), QStringList{active});
     EXPECT_EQ(summary(IssueActivity::OnlyWithout), others);
