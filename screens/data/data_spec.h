@@ -16,7 +16,8 @@ struct DataCommand
     QString name;
     QString caption;
     std::function<void(DataSession&)> run;
-    bool whileViewing = false;  // in modes "V" and "D", too
+    bool whileViewing = false;           // in modes "V" and "D", too
+    std::function<bool()> isShown = {};  // asked at each change; none: always
 };
 
 // Fields that stand together: a page of its own where a screen has several with a caption,
@@ -62,8 +63,8 @@ struct DataSpec
     bool staysOpen = false;                    // Update does not close the screen
     QString updateCaption = "&Update";
     QString updateName = "cmdUpdate";
-    // After Update of a new record the screen begins the next one, in the field of that name; blank:
-    // it closes.
+    // After Update of a new record the screen begins the next one, in the field of that name;
+    // blank: it closes.
     QString addsOnAt = {};
     // A second command, cmdUpdateStay, that saves and goes on with the record; blank: none.
     QString stayCaption = {};

@@ -246,6 +246,8 @@ void DataWindow::buildCommands()
         });
         if (!command.whileViewing)
             m_whileTyping.push_back(button);
+        if (command.isShown)
+            m_shownAtTimes.emplace_back(button, &command);
     }
     const DataSpec& spec = m_session.spec();
     if (!spec.stayCaption.isEmpty() && m_session.isForTyping())
@@ -283,6 +285,8 @@ void DataWindow::showState()
     m_update->setVisible(m_session.mode() != "V" || !m_session.spec().viewRefusal.isEmpty());
     for (QPushButton* button : m_whileTyping)
         button->setEnabled(m_session.isForTyping());
+    for (const auto& [button, command] : m_shownAtTimes)
+        button->setVisible(command->isShown());
     showKeys();
 }
 

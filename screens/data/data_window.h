@@ -51,7 +51,8 @@ private:
     QPushButton* m_update = nullptr;
     QPushButton* m_cancel = nullptr;
     std::vector<QPushButton*> m_whileTyping;  // commands that wait for that
-    std::vector<QWidget*> m_pageOf;           // of each field
+    std::vector<std::pair<QPushButton*, const DataCommand*>> m_shownAtTimes;
+    std::vector<QWidget*> m_pageOf;  // of each field
     int m_found = -1;
     int m_entered = -1;  // the field that had the focus last
     bool m_loaded = false;

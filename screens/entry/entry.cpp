@@ -262,7 +262,11 @@ void Entry::leave(int at, bool collects, bool wasChanged)
         m_errors.ClearField(at + 1);
     else
         m_errors.AddError(refusal, at + 1);
-    if (refusal.isEmpty() && wasChanged && field(at).left)
+    if (!wasChanged)
+        return;
+    if (!refusal.isEmpty() && !field(at).boxWhenLeft.isEmpty())
+        showCritical(field(at).boxWhenLeft, refusal);
+    else if (refusal.isEmpty() && field(at).left)
         field(at).left(*this);
 }
 

@@ -53,6 +53,8 @@ struct EntryField
     EntryCheck check = {};
     // Asked only when the field is left: Update takes what stands there.
     bool isCheckedOnlyWhenLeft = false;
+    // The title of a box that tells the refusal as soon as the field is left; blank: none does.
+    QString boxWhenLeft = {};
     // Opened by "?", "/" or the button beside the field; gives the text chosen, blank for none.
     std::function<QString(const Entry&)> search = {};
     // In place of `search`, where a choice may also empty the field or change others: sets the
