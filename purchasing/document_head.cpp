@@ -247,9 +247,7 @@ DataSpec frmVEXREQ02(const Session& session, const DocumentKind& kind, const Job
         .rules = std::make_shared<head::Rules>(kind, format),
         .deleteQuestion =
             [session, &kind](storage::Recordset& rows) {
-                const QString number = kind.isOrder()
-                                           ? trimmedTextOf(rows["PONO"])
-                                           : shownRequisitionNumber(intOf(rows["REQNO"]));
+                const QString number = shownNumberOf(kind, rows);
                 return confirmDelete("Confirm Delete.",
                                      deletionText(session, kind, intOf(rows[kind.tag]), number));
             },

@@ -65,6 +65,7 @@ bool Rules::begin(Entry& entry)
     const auto known = vendorAt(session, intOf(rows["VENTAG"]));
     entry.setText("JOBNO", trimmedTextOf(rows["JOBNO"]));
     entry.setNamed(docReference, reference);
+    m_reference = reference;
     if (known)
         entry.setNamed(vendor, known->VENNO);
     return true;
@@ -96,14 +97,17 @@ void Rules::complete(const Entry& entry, storage::Recordset& rows)
 {
     const Session& session = entry.session();
     const auto chosen = vendorOf(session, entry.named(vendor));
-    const DocReference reference = docReferenceOf(session, entry.named(docReference));
     rows["JOBNO"] = storedJobOf(entry, m_format);
     rows["PONO"] = entry["PONO"].trimmed();
     rows["VENTAG"] = chosen ? chosen->VENTAG : 0;
     rows["LDATE"] = dnDateKey(entry["FDATE"]);
     rows["REIMB"] = entry["REIMB"].trimmed().toUpper();
-    rows["BRQWOTAG"] = reference.BRQWOTAG;
-    rows["BRQROTAG"] = reference.BRQROTAG;
+    // One that was left alone stands, also where its order cannot be shown.
+    if (const QString typed = entry.named(docReference); entry.isAdding() || typed != m_reference) {
+        const DocReference reference = docReferenceOf(session, typed);
+        rows["BRQWOTAG"] = reference.BRQWOTAG;
+        rows["BRQROTAG"] = reference.BRQROTAG;
+    }
     if (entry.isAdding())
         completeNew(rows);
 }
@@ -126,8 +130,7 @@ void Rules::written(Entry& entry, storage::Recordset& rows)
 bool Rules::beforeDelete(const Session& session, storage::Recordset& rows)
 {
     const qint32 tag = intOf(rows[m_kind.tag]);
-    const bool hasDetail =
-        m_kind.isOrder() || hasLines(session, m_kind, tag) || !relatedOrders(session, tag).empty();
+    const bool hasDetail = m_kind.isOrder() || hasLines(session, m_kind, tag);
     if (hasDetail &&
         !askYesNo("Confirm Delete.", m_kind.isOrder() ? "Are You Sure?" : "Are You Sure? "))
         return false;

@@ -36,6 +36,7 @@ private:
     const DocumentKind& m_kind;
     JobNoFormat m_format;
     std::optional<HeadChange> m_change;
+    QString m_reference;  // the equipment's order as it was shown at first
 };
 
 }  // namespace head

@@ -31,9 +31,15 @@ bool isOpenOrAllowed(BrowseSession& list, bool isShown)
            dnOK2Access(closedRight, list.session().UserName, isShown);
 }
 
+// The menu has asked it already; it may have been taken away since.
+bool mayUse(const BrowseSession& list)
+{
+    return kindOf(list).isOrder() || dnOK2Access("REQ01", list.session().UserName, true);
+}
+
 bool mayOpen(BrowseSession& list, const QString& mode)
 {
-    return mode != "E" && mode != "D" ? true : isOpenOrAllowed(list, true);
+    return (mode != "E" && mode != "D") || (mayUse(list) && isOpenOrAllowed(list, true));
 }
 
 // ---- screens
@@ -63,7 +69,7 @@ void openDetailItems(BrowseSession& list)
                          "Must be at a Purchase Order in the List to Browse Detail.");
         return;
     }
-    if (kind.isOrder() && !dnOK2Access("PO02", list.session().UserName, true))
+    if (!mayUse(list) || (kind.isOrder() && !dnOK2Access("PO02", list.session().UserName, true)))
         return;
     list.openDetail(isOpenOrAllowed(list, false) ? detailMode : detailInViewMode);
 }
@@ -89,7 +95,7 @@ void changeStatus(BrowseSession& list, ListState& state)
         return kind.isOrder() ? showCritical("Error Displaying Form",
                                              "Must be on a Purchase Order to Change Status. ")
                               : showCritical("Error", "Must be at a Requisition to Change Status.");
-    if (!isOpenOrAllowed(list, true))
+    if (!mayUse(list) || !isOpenOrAllowed(list, true))
         return;
     const qint32 tag = list.currentTag();
     const auto choice = chooseStatus(kind, {statusOf(list.list().rows()), state.usesColors});
@@ -109,8 +115,7 @@ void toggleDocumentMark(BrowseSession& list, ListState& state)
     if (!list.list().goToCurrent())
         return;
     const storage::Recordset& rows = list.list().rows();
-    const QString number =
-        kind.isOrder() ? trimmedTextOf(rows["PONO"]) : shownRequisitionNumber(intOf(rows["REQNO"]));
+    const QString number = shownNumberOf(kind, rows);
     toggleMark(list.session(), kind, intOf(rows[kind.tag]), number);
     readMarks(list, state);
     list.list().repaint();

@@ -64,6 +64,12 @@ QString shownRequisitionNumber(qint32 REQNO)
     return dnPadLeftZero(QString::number(REQNO), shownDigits);
 }
 
+QString shownNumberOf(const DocumentKind& kind, const storage::Recordset& rows)
+{
+    return kind.isOrder() ? trimmedTextOf(rows["PONO"])
+                          : shownRequisitionNumber(intOf(rows["REQNO"]));
+}
+
 qint32 nextRequisitionNumber(const QString& jobSitePath)
 {
     const qint32 number = counterOf(jobSitePath, "REQNO");

@@ -5,7 +5,8 @@
 // order numbers is the last guard.
 #pragma once
 
-#include <QString>
+#include "core/storage/recordset.h"
+#include "purchasing/document_kind.h"
 
 // Who says what number an order bears.
 enum class NumberSource {
@@ -22,6 +23,8 @@ QString autoFormattedNumber(const QString& JOBNO, const QString& REQTYPE, qint32
 
 // A requisition's number as it is shown: five digits.
 QString shownRequisitionNumber(qint32 REQNO);
+// Of the document on which the handle stands.
+QString shownNumberOf(const DocumentKind& kind, const storage::Recordset& rows);
 
 // What the counters offer; 0 and blank after a box where their table is empty. An order's has five
 // digits, and a counter that was never used offers 1. After 99999 no requisition number is offered,

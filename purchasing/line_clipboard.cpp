@@ -3,6 +3,7 @@
 #include "core/keyed_access.h"
 #include "core/locators.h"
 #include "core/messages.h"
+#include "core/tag_list.h"
 #include "core/tags.h"
 #include "core/text.h"
 #include "core/zap.h"
@@ -19,6 +20,13 @@ OpenTable lineAt(const Session& session, qint32 RQITAG, bool& isThere)
     open.rows.Index("RQITAG");
     isThere = RQITAG != 0 && open.rows.Seek("=", RQITAG);
     return open;
+}
+
+// A mark goes with its line.
+void unmark(const Session& session, const DocumentKind& kind, qint32 docTag, qint32 RQITAG)
+{
+    OpenTable marks = openTable(session, "ZORUSER.mdb", "TAGLIST");
+    zorTagListUnset(marks.rows, kind.code, docTag, lineMarks, RQITAG);
 }
 
 // Once pasted it is a copy.
@@ -100,10 +108,13 @@ qint32 pasteLine(const Session& session, const DocumentKind& kind, qint32 docTag
         line.rows["POITEMNO"] = numbers[3];
         line.rows.Update();
     }
+    unmark(session, kind, docTag, tag);
     if (isCut) {
         OpenTable cut = lineAt(session, cutTag, isThere);
-        if (isThere && cutTag != RQITAG)
+        if (isThere && cutTag != RQITAG) {
+            unmark(session, kind, intOf(cut.rows[kind.tag]), cutTag);
             cut.rows.Delete();
+        }
         forgetCut(session);
     }
     renumberLines(session, kind, docTag);

@@ -39,7 +39,7 @@ std::vector<BrowseColumn> lineColumns(const LineState& state)
         numberColumn("QTY", 11, "Quantity", 1050, "###,###,###.00"),
         text("UNIT", 5, "Unit", 600),
         text("SHORTDESC", 60, "Description", 3700),
-        numberColumn("UNITPRICE", 13, "Unit Price", 1300, "###,###,###.000"),
+        numberColumn("UNITPRICE", 13, "Unit Price", 1300, "#########.000"),
         text("UNITFACT", 1, "U/F", 450),
         numberColumn("AMOUNT", 13, "Amount", 1400, "##,###,###.00")};
     for (const CostCodeGroup& group : costCodeGroups) {
@@ -67,8 +67,7 @@ QString ownerText(const BrowseSession& list, const LineListState& state)
     if (!documents.rows.Seek("=", state.owner.docTag))
         return {};
     const storage::Recordset& rows = documents.rows;
-    const QString number =
-        kind.isOrder() ? trimmedTextOf(rows["PONO"]) : shownRequisitionNumber(intOf(rows["REQNO"]));
+    const QString number = shownNumberOf(kind, rows);
     return QString(kind.noun) + ": " + number +
            "     Company: " + QString::number(state.owner.CONO) +
            "     Job Number: " + state.owner.JOBNO.trimmed() + "     " +

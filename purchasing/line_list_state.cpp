@@ -49,7 +49,8 @@ void toggleLineMark(BrowseSession& list, LineListState& state)
     if (zorTagListCheck(marks.rows, kind.code, state.owner.docTag, lineMarks, tag))
         zorTagListUnset(marks.rows, kind.code, state.owner.docTag, lineMarks, tag);
     else if (mayMark(state, rows))
-        zorTagListSet(marks.rows, kind.code, state.owner.docTag, lineMarks, tag);
+        zorTagListSet(marks.rows, kind.code, state.owner.docTag, lineMarks, tag,
+                      state.owner.number);
     else
         return refuseMark();
     readMarks(list, state);
@@ -67,7 +68,7 @@ void markAll(BrowseSession& list, LineListState& state)
         batch.begin();
         if (mayMark(state, lines.rows))
             zorTagListSet(marks.rows, kind.code, state.owner.docTag, lineMarks,
-                          intOf(lines.rows["RQITAG"]));
+                          intOf(lines.rows["RQITAG"]), state.owner.number);
         batch.added();
         return true;
     });

@@ -98,11 +98,18 @@ bool LineRules::begin(Entry& entry)
         entry.setText(code, trimmedTextOf(rows[code]));
     m_item = intOf(rows["ISNTAG"]);
     showItem(entry, intOf(rows["ILCTAG"]), m_item);
-    if (const auto item = line::itemAt(session, m_item))
-        m_hasDrifted = item->UOM != entry["UNIT"].trimmed() ||
-                       item->Desc.trimmed() != entry["Desc"].trimmed() ||
-                       item->RETAIL != numberOf(rows["UNITPRICE"]);
+    compare(entry);
     return true;
+}
+
+// A new line takes what the item has.
+void LineRules::compare(const Entry& entry)
+{
+    const auto price = [](double amount) { return dnFormat(amount, line::priceMask); };
+    const auto item = entry.isAdding() ? std::nullopt : line::itemOf(entry);
+    m_hasDrifted = item && (item->UOM != entry["UNIT"].trimmed() ||
+                            item->Desc.trimmed() != entry["Desc"].trimmed() ||
+                            price(item->RETAIL) != price(entry.number("UNITPRICE")));
 }
 
 void LineRules::inFront(Entry& entry)
@@ -117,6 +124,7 @@ void LineRules::inFront(Entry& entry)
     m_awaitsItem = false;
     if (const auto item = line::itemAt(entry.session(), tag))
         showItem(entry, item->ILCTAG, tag);
+    compare(entry);
 }
 
 EntryRules::Step LineRules::beforeWrite(Entry& entry)

@@ -15,9 +15,10 @@ public:
 
     // The line's amount beside those of the document's other lines.
     double total(const Entry& entry) const;
-    // The inventory item has changed since the line was saved.
+    // A stored line's unit, description or price is not that of the inventory item it names; as it
+    // stood when they were last compared.
     bool hasDrifted() const { return m_hasDrifted; }
-    void settle() { m_hasDrifted = false; }
+    void compare(const Entry& entry);
     // An item is being added for this line on a screen of its own.
     void awaitItem() { m_awaitsItem = true; }
 

@@ -6,6 +6,7 @@
 #include "core/number_format.h"
 #include "core/site_settings.h"
 #include "inventory/items.h"
+#include "purchasing/document_numbers.h"
 #include "purchasing/line_checks.h"
 #include "purchasing/line_rules.h"
 #include "screens/data/data_session.h"
@@ -26,7 +27,7 @@ EntryField shown(const char* name, const QString& caption,
 using Rules = std::shared_ptr<LineRules>;
 
 // ---- fields
-std::vector<EntryField> itemFields(const LineOwner& owner)
+std::vector<EntryField> itemFields(const LineOwner& owner, const Rules& rules)
 {
     return {{.name = line::branch,
              .caption = "&Branch Code:",
@@ -41,7 +42,11 @@ std::vector<EntryField> itemFields(const LineOwner& owner)
              .keys = {.upperCase = true},
              .check = line::checkPart,
              .choose = line::choosePart,
-             .left = line::partLeft},
+             .left =
+                 [rules](Entry& entry) {
+                     line::partLeft(entry);
+                     rules->compare(entry);
+                 }},
             {.name = "txtQTY",
              .field = "QTY",
              .caption = "&Quantity:",
@@ -70,6 +75,7 @@ std::vector<EntryField> itemFields(const LineOwner& owner)
              .caption = "Unit &Factor:",
              .length = 1,
              .check = line::checkFactor,
+             .boxWhenLeft = "Invalid Unit Factor",
              .hint = "Blank or e each, d dozen, g gross, c hundred, m thousand"}};
 }
 
@@ -208,10 +214,8 @@ void addItem(const Rules& rules, DataSession& screen, const char* title, const c
 
 void updateFields(const Rules& rules, DataSession& screen)
 {
-    if (!rules->hasDrifted())
-        return;
     line::takeItem(screen.entry());
-    rules->settle();
+    rules->compare(screen.entry());
 }
 
 std::vector<DataCommand> commands(const Rules& rules)
@@ -230,8 +234,10 @@ std::vector<DataCommand> commands(const Rules& rules)
                      "Cannot Add this Item to Inventory. Select a Valid Branch Code (ILC) "
                      "First.");
          }},
-        {"cmdUpdateFields", "&5 - Update Fields",
-         [rules](DataSession& in) { updateFields(rules, in); }}};
+        {.name = "cmdUpdateFields",
+         .caption = "&5 - Update Fields",
+         .run = [rules](DataSession& in) { updateFields(rules, in); },
+         .isShown = [rules] { return rules->hasDrifted(); }}};
 }
 
 }  // namespace
@@ -246,6 +252,7 @@ std::optional<LineOwner> lineOwnerOf(const Session& session, const DocumentKind&
         return {};
     LineOwner owner{.kind = &kind,
                     .docTag = docTag,
+                    .number = shownNumberOf(kind, rows),
                     .REQTAG = intOf(rows["REQTAG"]),
                     .CONO = intOf(rows["CONO"]),
                     .JOBNO = textOf(rows["JOBNO"]),
@@ -263,7 +270,7 @@ DataSpec frmVEXRQI02(const Session& session, const LineOwner& owner,
     const auto rules = std::make_shared<LineRules>(owner, carries);
     DataSection section{.fields = {}, .columns = 2};
     for (const std::vector<EntryField>& part :
-         {itemFields(owner), amountFields(rules), codeFields(owner), stockFields(kind)})
+         {itemFields(owner, rules), amountFields(rules), codeFields(owner), stockFields(kind)})
         section.fields.insert(section.fields.end(), part.begin(), part.end());
     if (siteSwitch(session.JobSitePath, "VEXUCASEONLY"))
         for (EntryField& field : section.fields)

@@ -12,6 +12,7 @@ struct LineOwner
 {
     const DocumentKind* kind = &requisitions;
     qint32 docTag = 0;
+    QString number;     // as it is shown
     qint32 REQTAG = 0;  // of an order: the requisition that it was made from, 0 for none
     int CONO = 0;
     QString JOBNO;  // stored form

@@ -17,7 +17,7 @@ protected:
     DocumentAccess() : m_before(Desktop::install(this))
     {
         int tag = 0;
-        for (const char* right : {"REQ02", "REQ03", "PO01", "PO02"})
+        for (const char* right : {"REQ02", "REQ03", "PO01", "PO02", "REQ01"})
             site.addRow("ZORNET.mdb", "USERACCESSITEMS",
                         {{"UAITAG", ++tag}, {"UAICODE", right}, {"Desc", right}});
         installRefusalScreen(
@@ -98,6 +98,17 @@ TEST_F(DocumentAccess, AClosedRequisitionIsOnlyLookedAtWithoutTheRight)
     site.setFirst("ZORVEX.mdb", "REQLIST", "AMOUNT", 3);
     closeScreen();
     EXPECT_EQ(rows("REQLIST", {"AMOUNT"}), QStringList{"3"}) << "who looks on writes no totals";
+}
+
+TEST_F(DocumentAccess, ARightThatWasTakenAwayHoldsInAnOpenList)
+{
+    BrowseSession list(frmVEXREQ01(), session);
+    list.open();
+    deny(5);
+    EXPECT_EQ(openings(list), 0);
+    run(list, "cmdStatus");
+    EXPECT_EQ(refusals, QStringList(4, "REQ01"));
+    EXPECT_EQ(locks(), 0);
 }
 
 TEST_F(DocumentAccess, WhatAnotherUserHasCanBeViewedOnly)

@@ -97,10 +97,14 @@ TEST_F(DocumentRules, ClipboardCutsOnlyWhenItIsPasted)
     user.expect("Cannot Paste", "The Line Item Detail Clipboard is Empty. (Nothing to Paste).");
     EXPECT_EQ(pasteLine(session, requisitions, 10, 101), 0);
     copyToClipboard(session, 100, true);
+    for (const int line : {100, 101, 102})
+        markLine(requisitions, 10, line);
     EXPECT_EQ(inOrder().size(), 3) << "not yet";
     EXPECT_TRUE(hasContent(session, 101)) << "a text line has a description";
     EXPECT_NE(pasteLine(session, requisitions, 10, 101), 0);
     EXPECT_EQ(inOrder(), (QStringList{"1 Line 1", "2 Line 3"})) << "over the text line";
+    EXPECT_EQ(rowsOf(site, "ZORUSER.mdb", "TAGLIST", {"ITEMTAG"}), QStringList{"102"})
+        << "marks go with their lines";
     pasteLine(session, requisitions, 10, 0);
     EXPECT_EQ(inOrder(), (QStringList{"1 Line 1", "2 Line 3", "3 Line 1"})) << "a copy from now on";
     copyToClipboard(session, 102, true);

@@ -172,6 +172,7 @@ TEST_F(DocumentScreens, AnotherJobIsAskedAndRefusedLeavesAll)
 {
     addRequisition(1);
     add("POLIST", {{"POTAG", 70}, {"REQTAG", 10}, {"PONO", "4711M0002301"}, {"POSUFFIX", 1}});
+    site.setFirst("ZORVEX.mdb", "REQLIST", "BRQROTAG", 9);
     DataSession edited = head(requisitions, "E", 10);
     ASSERT_TRUE(edited.open());
     edited.entry().setText("REQTYPE", "S");
@@ -185,7 +186,8 @@ TEST_F(DocumentScreens, AnotherJobIsAskedAndRefusedLeavesAll)
     EXPECT_EQ(rows("REQLIST", {"REQTYPE"}), QStringList{"M"});
     user.expect("PO Number Changed", question, Answer::Yes);
     EXPECT_TRUE(edited.update());
-    EXPECT_EQ(rows("REQLIST", {"REQTYPE", "PONO"}), QStringList{"S|4711S0002301"});
+    EXPECT_EQ(rows("REQLIST", {"REQTYPE", "PONO", "BRQROTAG"}), QStringList{"S|4711S0002301|9"})
+        << "the repair order stays, though it is not to be seen here";
     EXPECT_EQ(rows("POLIST", {"REQTYPE", "PONO"}), QStringList{"S|4711S0002301"});
     EXPECT_EQ(rows("RQILIST", {"COSTCODEA"}), QStringList{" 100"}) << "the job is the same";
 }
@@ -215,7 +217,9 @@ TEST_F(DocumentScreens, LinesAreEnteredOneAfterTheOther)
     EXPECT_EQ(entered.caption(), "Requisition Line Item - Add");
     Entry& entry = entered.entry();
     type(entry, "txtILCCODE", "9");
+    user.expect("Invalid Unit Factor", "Invalid Unit Factor. Must be nothing or e, d, g, c, or m.");
     type(entry, "txtUNITFACT", "x");
+    EXPECT_TRUE(user.allCame());
     type(entry, "txtCOSTCODEA", "77");
     type(entry, "txtMCODE", "Z");
     type(entry, "txtGLCODE", "1");
@@ -366,6 +370,38 @@ TEST_F(DocumentScreens, AClonedLineIsEditedWithItsItem)
     type(edited.entry(), "txtQTY", "3");
     EXPECT_TRUE(edited.update());
     EXPECT_EQ(rows("INVENTORY", {"ONORDER"}), QStringList{"5"}) << "from now on it counts";
+}
+
+TEST_F(DocumentScreens, ALineTellsThatItsItemIsAnother)
+{
+    addRequisition(3);
+    add("INVENTORY", {{"ISNTAG", 6},
+                      {"ILCTAG", 1},
+                      {"PARTNO", "P-2"},
+                      {"Desc", "Line 3"},
+                      {"UOM", "FT"},
+                      {"RETAIL", 10.0}});
+    DataSession edited = line(requisitions, 10, "E", 102);
+    ASSERT_TRUE(edited.open());
+    Entry& entry = edited.entry();
+    const auto warns = [&] { return !shown(edited, "lblINVWarning").isEmpty(); };
+    const auto update = [&] {
+        for (const DataCommand& command : edited.spec().commands)
+            if (command.name == "cmdUpdateFields") {
+                EXPECT_EQ(command.isShown(), warns());
+                edited.run(command);
+            }
+    };
+    EXPECT_TRUE(warns()) << "the price was typed";
+    type(entry, "txtPARTNO", "");
+    EXPECT_FALSE(warns());
+    type(entry, "txtPARTNO", "P-2");
+    EXPECT_TRUE(warns()) << "of another unit";
+    update();
+    EXPECT_FALSE(warns());
+    EXPECT_EQ(entry["UNIT"], "FT");
+    EXPECT_TRUE(edited.update());
+    EXPECT_EQ(rows("RQILIST", {"ISNTAG", "UNIT"}).last(), "6|FT");
 }
 
 TEST_F(DocumentScreens, AnOrderWithoutADatePostsNothing)
