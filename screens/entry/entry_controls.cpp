@@ -14,6 +14,7 @@
 #include "core/storage/storage_error.h"
 #include "screens/command_runner.h"
 #include "screens/date_field.h"
+#include "screens/name_label.h"
 #include "screens/selectors/error_box.h"
 
 using storage::FieldType;
@@ -106,8 +107,7 @@ QWidget* newControl(const EntryField& field, QWidget* parent)
         case Kind::Heading:
             break;
     }
-    auto* label = new QLabel(parent);
-    label->setTextFormat(Qt::PlainText);
+    auto* label = new NameLabel(parent);
     if (field.kind == Kind::Heading)
         label->setText(field.caption);
     else

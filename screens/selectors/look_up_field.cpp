@@ -5,13 +5,13 @@
 #include <QCompleter>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QStandardItemModel>
 #include <QToolButton>
 
 #include "screens/command_runner.h"
 #include "screens/field_keys.h"
+#include "screens/name_label.h"
 
 namespace {
 
@@ -37,14 +37,13 @@ public:
 LookUpField::LookUpField(const QString& name, const QString& nameLabel, LookUpSource source)
     : m_source(std::move(source)),
       m_edit(new QLineEdit),
-      m_name(new QLabel),
+      m_name(new NameLabel),
       m_button(new QToolButton),
       m_choices(new QStandardItemModel(this))
 {
     m_edit->setObjectName(name);
     setFieldKeys(*m_edit, {.upperCase = true});
     m_name->setObjectName(nameLabel);
-    m_name->setTextFormat(Qt::PlainText);
     m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 24);
     m_name->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     m_button->setObjectName(name + "Search");
