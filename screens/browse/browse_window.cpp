@@ -390,8 +390,11 @@ void BrowseWindow::keyPressEvent(QKeyEvent* event)
         m_exit->click();
         return;
     }
+    // On a button, too: the letters mean the same there.
+    const bool isAtHand =
+        grid().view()->hasFocus() || qobject_cast<QPushButton*>(QApplication::focusWidget());
     const QKeyCombination key(event->modifiers() & ~Qt::KeypadModifier, Qt::Key(event->key()));
-    if (session().isBrowsing() && grid().view()->hasFocus() && commandForKey(key))
+    if (session().isBrowsing() && isAtHand && commandForKey(key))
         return;
     QWidget::keyPressEvent(event);
 }
