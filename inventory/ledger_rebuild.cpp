@@ -19,11 +19,6 @@ const QString title = "Error: Transaction Recalc";
 // one document lie on as many pages as they name items.
 constexpr WriteBatch::Limits manyRows = {.rows = 10'000, .milliseconds = 250};
 
-void tell(const QString& text)
-{
-    showCritical(title, text);
-}
-
 // What names a row: rows that are equal in it are told apart by their order alone.
 auto identity(const LedgerKind* kind, qint32 docTag, qint32 itemTag, qint32 isnTag)
 {
@@ -42,10 +37,11 @@ class Rebuild
 public:
     Rebuild(const QString& path, qint32 ilcTag, const std::function<bool()>& proceed)
         : m_ilcTag(ilcTag),
-          m_proceed(proceed),
+          m_proceed([this, &proceed] { return !m_isStopped && proceed(); }),
           m_workspace(storage::CreateWorkspace("wksZORVEX")),
           m_database(m_workspace.OpenDatabase(storage::joinPath(path, "ZORVEX.mdb"))),
-          m_documents(path, m_workspace, m_database, ilcTag, proceed, tell)
+          m_documents(path, m_workspace, m_database, ilcTag, m_proceed,
+                      [this](const QString& text) { tell(text); })
     {
     }
 
@@ -59,16 +55,18 @@ public:
     }
 
 private:
+    void tell(const QString& text);
     void sortEffects();
     bool compareRows();
     bool stands(const storage::Scan& row);
     bool deleteRows();
     bool addRows();
     bool replayItems();
-    bool writeQuantities(const std::vector<qint32>& items);
+    void writeQuantities(const std::vector<qint32>& items);
 
     const qint32 m_ilcTag;
-    const std::function<bool()>& m_proceed;
+    bool m_isStopped = false;
+    const std::function<bool()> m_proceed;
     storage::Workspace m_workspace;
     storage::Database m_database;
     LedgerDocuments m_documents;
@@ -78,6 +76,15 @@ private:
     std::vector<bool> m_hasRow;
     std::vector<QString> m_surplus;  // bookmarks of rows that no document has
 };
+
+// There may be a box for each of many items: Cancel ends the run.
+void Rebuild::tell(const QString& text)
+{
+    m_isStopped = Messages::current().show({.kind = MessageKind::Critical,
+                                            .title = title,
+                                            .text = text,
+                                            .buttons = Buttons::OkCancel}) == Answer::Cancel;
+}
 
 void Rebuild::sortEffects()
 {
@@ -197,7 +204,7 @@ bool Rebuild::addRows()
 }
 
 // Each item anew, within the transaction: somebody may have posted to it since it was compared.
-bool Rebuild::writeQuantities(const std::vector<qint32>& changed)
+void Rebuild::writeQuantities(const std::vector<qint32>& changed)
 {
     storage::Recordset items = m_database.OpenRecordset("INVENTORY");
     const storage::Recordset ledgerRows = m_database.OpenRecordset("INVTRANS");
@@ -213,21 +220,22 @@ bool Rebuild::writeQuantities(const std::vector<qint32>& changed)
             store(items, replay.quantities());
             items.Update();
         }
-        if (batch.added() && !m_proceed())
-            return false;
+        batch.added();
     }
     batch.commit();
-    return true;
 }
 
+// What is written stays when the run is stopped.
 bool Rebuild::replayItems()
 {
+    constexpr size_t manyItems = 1000;
     storage::Recordset inventory = m_database.OpenRecordset("INVENTORY");
     inventory.Index("INVISNTAG");
     storage::Scan items(inventory, {"ISNTAG", "AVAILABLE", "ONORDER", "ISSUED", "INVADJUSTMENTS"});
     LinesByTag rows = ledgerByItem(m_database.OpenRecordset("INVTRANS"));
     std::vector<qint32> changed;
-    for (bool more = items.from(); more; more = items.next()) {
+    bool isWhole = true;
+    for (bool more = items.from(); more && isWhole; more = items.next()) {
         LedgerReplay replay(rebuildReading);
         const StockQuantities stored = {.available = float(items.number(1)),
                                         .onOrder = float(items.number(2)),
@@ -239,10 +247,14 @@ bool Rebuild::replayItems()
             else if (replay.quantities() != stored)
                 changed.push_back(items.tag(0));
         }
-        if (!m_proceed())
-            return false;
+        isWhole = m_proceed();
+        if (changed.size() == manyItems || !isWhole) {
+            writeQuantities(changed);
+            changed.clear();
+        }
     }
-    return writeQuantities(changed);
+    writeQuantities(changed);
+    return isWhole;
 }
 
 }  // namespace

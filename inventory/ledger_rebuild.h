@@ -14,8 +14,9 @@
 #include <QString>
 #include <functional>
 
-// `proceed` is called after each document, line, row and item; false stops the run where it stands, with
-// whole rows written. What is told meanwhile (an item that is missing, rows of unknown kinds) comes
-// as boxes, and the run goes on. Nobody else may post to the branch. False when stopped. Failures
-// of the store are the caller's; what was written stays, and a new run begins from the start.
+// `proceed` is called after each document, line, row and item; false stops the run where it stands,
+// with whole rows written. What is told meanwhile (an item that is missing, rows of unknown kinds)
+// comes as boxes: OK goes on, Cancel stops. Nobody else may post to the branch. False when stopped.
+// Failures of the store are the caller's; what was written stays, and a new run begins from the
+// start.
 bool rebuildLedger(const QString& jobSitePath, qint32 ilcTag, const std::function<bool()>& proceed);

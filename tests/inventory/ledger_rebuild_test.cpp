@@ -160,6 +160,16 @@ TEST_F(LedgerRebuild, TellsOfItemsThatItCannotReplayAndGoesOn)
     EXPECT_TRUE(run());
     EXPECT_EQ(quantities(3), StockQuantities());
     EXPECT_EQ(quantities(7).available, 8);
+
+    addLedgerRow(2, "IA", "IAI", 1, "20260301", 2, 2);
+    addLedgerRow(7, "IA", "IAI", 6, "20260303", 8, 2);
+    user.expect(title, "Cannot Find the Inventory Item Tag: 404");
+    user.expect(title, "Invalid Document Type: MI", Answer::Cancel);
+    EXPECT_FALSE(run());
+    EXPECT_EQ(quantities(2).available, 2) << "before it";
+    EXPECT_EQ(quantities(7).available, 8) << "after it";
+    user.expect(title, "Cannot Find the Inventory Item Tag: 404", Answer::Cancel);
+    EXPECT_FALSE(run());
     EXPECT_EQ(quantities(1).onOrder, 10);
 }
 
