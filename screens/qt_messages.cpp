@@ -1,6 +1,9 @@
 #include "screens/qt_messages.h"
 
+#include <QGridLayout>
 #include <QMessageBox>
+
+#include "screens/small_dialog.h"
 
 namespace {
 
@@ -54,6 +57,10 @@ Answer QtMessages::show(const Message& message)
     QMessageBox box(iconOf(message.kind), message.title, message.text, QMessageBox::NoButton,
                     parent ? parent : QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    // A box takes its width from its rows.
+    if (auto* rows = qobject_cast<QGridLayout*>(box.layout()))
+        rows->addItem(new QSpacerItem(widthOfCaption(box, message.title), 0), rows->rowCount(), 0,
+                      1, rows->columnCount());
     QHash<QAbstractButton*, Answer> answers;
     const QList<BoxButton> buttons = buttonsOf(message.buttons);
     for (const BoxButton& wanted : buttons) {

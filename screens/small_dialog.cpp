@@ -5,14 +5,18 @@
 
 #include "screens/command_runner.h"
 
+int widthOfCaption(const QWidget& window, const QString& caption)
+{
+    constexpr int frameButtons = 160;
+    return window.fontMetrics().horizontalAdvance(caption) + frameButtons;
+}
+
 SmallDialog::SmallDialog(const QString& name, const QString& caption)
     : m_rows(new QFormLayout), m_buttons(new QHBoxLayout)
 {
     setObjectName(name);
     setWindowTitle(caption);
-    // The caption in full, beside the frame's buttons.
-    constexpr int frameButtons = 160;
-    setMinimumWidth(fontMetrics().horizontalAdvance(caption) + frameButtons);
+    setMinimumWidth(widthOfCaption(*this, caption));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 12);
     layout->setSpacing(14);

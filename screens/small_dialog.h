@@ -12,6 +12,9 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 
+// How wide a window must be to show its caption in full, beside the frame's buttons.
+int widthOfCaption(const QWidget& window, const QString& caption);
+
 class SmallDialog : public QDialog
 {
 public:
