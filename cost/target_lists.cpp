@@ -5,6 +5,7 @@
 #include "core/keyed_access.h"
 #include "core/locators.h"
 #include "core/write_batch.h"
+#include "core/write_where.h"
 
 namespace {
 
@@ -20,30 +21,14 @@ bool isOfJob(const storage::Recordset& rows, int CONO, const QString& JOBNO)
     return intOf(rows["CONO"]) == CONO && textOf(rows["JOBNO"]) == JOBNO;
 }
 
-// Writes a field of each tagged row of the job. Which they are is found out first: writing within
-// the walk would have each step read the list anew.
+// Writes a field of each tagged row of the job.
 int writeTagged(const QString& jobSitePath, int CONO, const QString& JOBNO, schema::FieldName field,
                 bool value)
 {
     OpenTable targets = openTargets(jobSitePath);
-    storage::Recordset& rows = targets.rows;
-    std::vector<QString> tagged;
-    for (bool more = rows.Seek("=", CONO, JOBNO); more && isOfJob(rows, CONO, JOBNO);
-         more = rows.MoveNext())
-        if (rows["TAGGED"].value().toBool())
-            tagged.push_back(rows.Bookmark());
-    WriteBatch batch(targets.workspace);
-    for (const QString& bookmark : tagged) {
-        batch.begin();
-        if (!goToFound(rows, bookmark))
-            continue;
-        rows.Edit();
-        rows[field] = value;
-        rows.Update();
-        batch.added();
-    }
-    batch.commit();
-    return static_cast<int>(tagged.size());
+    return writeWhere(
+        targets, "ZORTLCC", {{"CONO", CONO}, {"JOBNO", JOBNO}}, field, value,
+        [](const storage::Recordset& rows) { return rows["TAGGED"].value().toBool(); });
 }
 
 }  // namespace

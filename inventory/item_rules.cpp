@@ -9,7 +9,7 @@
 #include "core/storage/file_paths.h"
 #include "core/tags.h"
 #include "core/text.h"
-#include "core/write_batch.h"
+#include "core/write_where.h"
 #include "inventory/catalog_rules.h"
 
 namespace {
@@ -31,39 +31,10 @@ bool hasRow(const QString& jobSitePath, const QString& file, const QString& tabl
 }
 
 // ---- rows of an item
-// Writes a field of each row whose key along the index is the tag; how many. Which they are is
-// found out first: the field may be a key of the index.
-template <class Wanted>
-int writeWhere(OpenTable& open, const QString& index, KeyFields keys, schema::FieldName field,
-               const storage::Value& value, Wanted isWanted)
-{
-    storage::Recordset& rows = open.rows;
-    std::vector<QString> found;
-    forEachWithin(rows, index, keys, [&] {
-        if (isWanted(rows))
-            found.push_back(rows.Bookmark());
-        return true;
-    });
-    WriteBatch batch(open.workspace);
-    for (const QString& bookmark : found) {
-        batch.begin();
-        if (!goToFound(rows, bookmark))
-            continue;
-        rows.Edit();
-        rows[field] = value;
-        rows.Update();
-        batch.added();
-    }
-    batch.commit();
-    return static_cast<int>(found.size());
-}
-
 bool isWithin(const ItemKind& kind, const storage::Recordset& item, qint32 ILCTAG)
 {
     return !kind.isOfBranch || intOf(item["ILCTAG"]) == ILCTAG;
 }
-
-constexpr auto anyRow = [](const storage::Recordset&) { return true; };
 
 struct ItemDetail
 {
@@ -243,13 +214,13 @@ int tagItems(const ItemKind& kind, const QString& jobSitePath, const QString& in
              const std::vector<KeyField>& keys)
 {
     OpenTable items = openTable(jobSitePath, siteFile, kind.table);
-    return writeWhere(items, index, keys, "TAGGED", "Y", anyRow);
+    return writeWhere(items, index, keys, "TAGGED", "Y");
 }
 
 void clearItemTags(const ItemKind& kind, const QString& jobSitePath)
 {
     OpenTable items = openTable(jobSitePath, siteFile, kind.table);
-    writeWhere(items, kind.index("TAGGED"), {{"TAGGED", "Y"}}, "TAGGED", " ", anyRow);
+    writeWhere(items, kind.index("TAGGED"), {{"TAGGED", "Y"}}, "TAGGED", " ");
 }
 
 QString changeBranch(const QString& jobSitePath, const BranchChange& change)
@@ -264,8 +235,8 @@ QString changeBranch(const QString& jobSitePath, const BranchChange& change)
         if (detail.file == equipmentFile && !hasEquipment(jobSitePath))
             continue;
         OpenTable open = openTable(jobSitePath, detail.file, detail.table);
-        const int count = writeWhere(open, detail.index, {{"ISNTAG", change.ISNTAG}}, "ILCTAG",
-                                     change.ILCTAG, anyRow);
+        const int count =
+            writeWhere(open, detail.index, {{"ISNTAG", change.ISNTAG}}, "ILCTAG", change.ILCTAG);
         if (count > 0)
             report += '\n' + QString(detail.line) + QString("%1").arg(count, places);
     }
