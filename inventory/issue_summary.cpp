@@ -3,10 +3,9 @@
 #include "core/dates.h"
 #include "core/keyed_access.h"
 #include "core/text.h"
-#include "core/zap.h"
 #include "inventory/item_codes.h"
 #include "inventory/ledger_reports.h"
-#include "screens/report/list_report.h"
+#include "screens/report/buffer_report.h"
 #include "screens/search/inventory_searches.h"
 #include "screens/selectors/report_selectors.h"
 
@@ -134,29 +133,27 @@ ReportPlan planOf(const ReportRun& run)
     return plan;
 }
 
-void addLines(ReportRun& run, ReportLines& lines)
+ReportWalk walk()
 {
-    OpenTable buffer = openTable(run.session(), "ZORUSER.mdb", "INVISR");
-    dnZap(run.session().UserSettingsPath, "ZORUSER.mdb", buffer.rows);
-    buffer = openTable(run.session(), "ZORUSER.mdb", "INVISR");
-    run.showStatus("Adding up what was issued...");
-    run.expectRows(0);
-    if (!fillIssueSummary(requestOf(run), buffer, [&run] { return run.proceed(); }))
-        return;
-    run.showStatus({});
-    buffer = openTable(run.session(), "ZORUSER.mdb", "INVISR");
-    storage::Recordset& rows = buffer.rows;
-    rows.Index("INVISR");
-    run.expectRows(rows.RecordCount());
-    for (bool more = rows.RecordCount() > 0 && rows.MoveFirst(); more; more = rows.MoveNext()) {
-        ReportCells cells;
-        for (const IssueColumn& column : issueColumns)
-            cells.push_back(column.field.isNone() ? storage::Value(QString())
-                            : column.isNumber     ? rows[column.field].value()
-                                              : storage::Value(trimmedTextOf(rows[column.field])));
-        if (!lines.add({.cells = cells}))
-            return;
-    }
+    return bufferWalk(
+        {.file = "ZORUSER.mdb",
+         .table = "INVISR",
+         .index = "INVISR",
+         .status = "Adding up what was issued...",
+         .fill =
+             [](ReportRun& run, OpenTable& buffer) {
+                 return fillIssueSummary(requestOf(run), buffer, [&run] { return run.proceed(); });
+             },
+         .cells =
+             [](const ReportRun&, const storage::Recordset& rows) {
+                 ReportCells cells;
+                 for (const IssueColumn& column : issueColumns)
+                     cells.push_back(column.field.isNone() ? storage::Value(QString())
+                                     : column.isNumber
+                                         ? rows[column.field].value()
+                                         : storage::Value(trimmedTextOf(rows[column.field])));
+                 return cells;
+             }});
 }
 
 QString searchSeries(const ReportSelection& selection, const Session& session)
@@ -201,7 +198,7 @@ ReportSpec frmVEXINVISR()
                     .name = "lblPaper",
                     .caption = "This Report Uses Legal Size Paper"}},
         .check = check,
-        .print = listReport(planOf, addLines),
+        .print = listReport(planOf, walk()),
         .workbookName = [](const ReportRun&) { return QString("VEXISR.xls"); },
         .paper = legalPaper,
     };

@@ -4,11 +4,10 @@
 #include "core/keyed_access.h"
 #include "core/storage/file_paths.h"
 #include "core/text.h"
-#include "core/zap.h"
 #include "inventory/item_codes.h"
 #include "inventory/item_search.h"
 #include "inventory/ledger_reports.h"
-#include "screens/report/list_report.h"
+#include "screens/report/buffer_report.h"
 #include "screens/selectors/report_selectors.h"
 
 namespace {
@@ -83,41 +82,43 @@ ReportPlan planOf(const ReportRun& run)
                     number("Amount", 1150, priceMask)}};
 }
 
-OpenTable openBuffer(const Session& session)
+ReportWalk walk()
 {
-    return openTable(session, bufferFile, "TransactionHistory");
-}
-
-void addLines(ReportRun& run, ReportLines& lines)
-{
-    OpenTable buffer = openBuffer(run.session());
-    dnZap(folderOf(run.session(), bufferFile), bufferFile, buffer.rows);
-    buffer = openBuffer(run.session());
-    run.showStatus("Reading the transactions...");
-    run.expectRows(0);
-    const TransactionHistoryRequest request{.jobSitePath = run.session().JobSitePath,
-                                            .ILCTAG = run.selection["ILCTAG"].toInt(),
-                                            .beginPARTNO = run.selection["txtBPARTNO"].trimmed(),
-                                            .endPARTNO = run.selection["txtEPARTNO"].trimmed(),
-                                            .beginLDATE = dnDateKey(run.selection["txtBDATE"]),
-                                            .endLDATE = dnDateKey(run.selection["txtEDATE"])};
-    if (!fillTransactionHistory(request, buffer, [&run] { return run.proceed(); }))
-        return;
-    run.showStatus({});
-    buffer = openBuffer(run.session());
-    storage::Recordset& rows = buffer.rows;
-    rows.Index("TransactionHistory");
-    run.expectRows(rows.RecordCount());
-    const bool isFull = run.selection.isTicked("ckbVEXINVP08PFD");
-    const auto text = [&rows](schema::FieldName field) { return trimmedTextOf(rows[field]); };
-    for (bool more = rows.RecordCount() > 0 && rows.MoveFirst(); more; more = rows.MoveNext())
-        if (!lines.add(
-                {.cells = {text("PARTNO"), text("SERIESCODE"), text("SUBCATCODE"), text("UPCCODE"),
-                           isFull ? text("Desc") : text("SHORTDESC"), rows["UNITPRICE"].value(),
-                           text("DOCDESC"), text("DOCNO"), text("DOCFDATE"),
-                           rows["QUANTITY"].value(), rows["ONORDER"].value(),
-                           rows["AVAILABLE"].value(), rows["AMOUNT"].value()}}))
-            return;
+    return bufferWalk(
+        {.file = bufferFile,
+         .table = "TransactionHistory",
+         .index = "TransactionHistory",
+         .status = "Reading the transactions...",
+         .fill =
+             [](ReportRun& run, OpenTable& buffer) {
+                 return fillTransactionHistory(
+                     {.jobSitePath = run.session().JobSitePath,
+                      .ILCTAG = run.selection["ILCTAG"].toInt(),
+                      .beginPARTNO = run.selection["txtBPARTNO"].trimmed(),
+                      .endPARTNO = run.selection["txtEPARTNO"].trimmed(),
+                      .beginLDATE = dnDateKey(run.selection["txtBDATE"]),
+                      .endLDATE = dnDateKey(run.selection["txtEDATE"])},
+                     buffer, [&run] { return run.proceed(); });
+             },
+         .cells = [](const ReportRun& run, const storage::Recordset& rows) -> ReportCells {
+             const bool isFull = run.selection.isTicked("ckbVEXINVP08PFD");
+             const auto text = [&rows](schema::FieldName field) {
+                 return trimmedTextOf(rows[field]);
+             };
+             return {text("PARTNO"),
+                     text("SERIESCODE"),
+                     text("SUBCATCODE"),
+                     text("UPCCODE"),
+                     isFull ? text("Desc") : text("SHORTDESC"),
+                     rows["UNITPRICE"].value(),
+                     text("DOCDESC"),
+                     text("DOCNO"),
+                     text("DOCFDATE"),
+                     rows["QUANTITY"].value(),
+                     rows["ONORDER"].value(),
+                     rows["AVAILABLE"].value(),
+                     rows["AMOUNT"].value()};
+         }});
 }
 
 QString searchPartNumber(const ReportSelection& selection, const Session& session)
@@ -160,7 +161,7 @@ ReportSpec frmVEXINVP08()
                     .caption = "P&rint Paper Report?",
                     .value = "-1"}},
         .check = check,
-        .print = listReport(planOf, addLines),
+        .print = listReport(planOf, walk()),
         .workbookName =
             [](const ReportRun& run) {
                 return storage::joinPath(run.session().JobSitePath,
