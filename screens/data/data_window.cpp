@@ -204,6 +204,12 @@ QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
         constexpr int nameLength = 30;
         if (field.kind == Kind::Shown)
             control->setMinimumWidth(control->fontMetrics().averageCharWidth() * nameLength);
+        // Beside other fields a memo is as high as its rows: more would tear theirs apart.
+        if (field.kind == Kind::Memo && columns > 1) {
+            control->setMinimumHeight(height * QLineEdit().sizeHint().height() +
+                                      (height - 1) * grid->verticalSpacing());
+            control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+        }
         if (field.kind == Kind::Heading) {
             QFont font = control->font();
             font.setBold(true);
