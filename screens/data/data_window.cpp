@@ -32,8 +32,11 @@ public:
     using QScrollArea::QScrollArea;
     QSize sizeHint() const override
     {
-        const int bar = verticalScrollBar()->sizeHint().width();
-        return widget() ? widget()->sizeHint() + QSize(bar, 4) : QScrollArea::sizeHint();
+        if (!widget())
+            return QScrollArea::sizeHint();
+        // A name that comes with what is typed may have a line more.
+        const QSize spare(verticalScrollBar()->sizeHint().width(), 10);
+        return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) + spare;
     }
     // All of a control, with some room around it.
     void showWhole(QWidget* control)
