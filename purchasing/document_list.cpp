@@ -343,7 +343,7 @@ std::vector<BrowseCommand> commandsOf(const DocumentKind& kind, const State& sta
                        .caption = "SpreadSheet Fi&ll",
                        .run =
                            [](BrowseSession& list) {
-                               if (isOpenOrAllowed(list, true))
+                               if (mayUse(list) && isOpenOrAllowed(list, true))
                                    dnNotReady();
                            },
                        .key = Qt::Key_L,
