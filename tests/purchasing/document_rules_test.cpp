@@ -168,8 +168,8 @@ TEST_F(DocumentRules, AKilledCreationLeavesWhatItsStepsHadDone)
         markLine(requisitions, 10, 100);
         markLine(requisitions, 10, 102);
         QProcess creator;
-        creator.start(ORDER_CREATOR_PROGRAM,
-                      {site.siteFolder(), site.userFolder(), "00041", QString::number(left.steps)});
+        creator.start(DOCUMENT_CHANGER_PROGRAM, {site.siteFolder(), site.userFolder(), "create",
+                                                 "00041", QString::number(left.steps)});
         ASSERT_TRUE(creator.waitForFinished(60'000));
         EXPECT_EQ(creator.exitStatus(), QProcess::CrashExit);
         EXPECT_EQ(creator.readAllStandardError().constData(), std::string());
