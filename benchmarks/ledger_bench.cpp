@@ -23,7 +23,6 @@ constexpr int longItem = 3;
 // What a row replayed may cost, beyond a posting to an item of ten rows.
 const BenchGoal replayGoal{
     .ratio = 1.0, .unit = "us/row", .perSecond = 1e-6, .bound = 1.0, .ownFigure = true};
-const BenchGoal wholeGoal{.ratio = 2.0, .unit = "ms", .perSecond = 1e-3, .ownFigure = true};
 // 100,000 rows a second.
 const BenchGoal rebuildGoal{
     .ratio = 1.0, .unit = "us/row", .perSecond = 1e-6, .bound = 10.0, .ownFigure = true};
@@ -120,36 +119,30 @@ double postingSeconds(const QString& folder, int isnTag)
     return static_cast<double>(timer.nsecsElapsed()) * 1e-9;
 }
 
-// The cost of a row: what a posting costs beyond one to the short item.
+// The cost of a row: what a posting costs beyond one to the short item. Either is the best of some,
+// because two durable writes vary by as much as a thousand rows cost.
 void posting(benchmark::State& state, int isnTag, int rows)
 {
     static const QString folder = makeSite(false);
     NoBoxes boxes;
     for (auto _ : state) {
-        const double fixed = postingSeconds(folder, shortItem);
-        state.SetIterationTime(std::max(1e-9, postingSeconds(folder, isnTag) - fixed));
+        constexpr int tries = 25;
+        double fixed = postingSeconds(folder, shortItem);
+        double whole = postingSeconds(folder, isnTag);
+        for (int i = 1; i < tries; ++i) {
+            fixed = std::min(fixed, postingSeconds(folder, shortItem));
+            whole = std::min(whole, postingSeconds(folder, isnTag));
+        }
+        state.SetIterationTime(std::max(1e-9, whole - fixed));
         if (!boxes.shown.isEmpty())
             state.SkipWithError(qPrintable(boxes.shown));
     }
     state.counters["items"] = rows;
 }
 
-// Short postings are a matter of two durable writes: as a whole, against the shortest.
-void wholePosting(benchmark::State& state, int isnTag)
-{
-    static const QString folder = makeSite(false);
-    for (auto _ : state)
-        state.SetIterationTime(postingSeconds(folder, isnTag));
-}
-
-void postingToShort(benchmark::State& state)
-{
-    wholePosting(state, shortItem);
-}
-
 void postingToMiddle(benchmark::State& state)
 {
-    wholePosting(state, middleItem);
+    posting(state, middleItem, 1'000 - 10);
 }
 
 void postingToLong(benchmark::State& state)
@@ -226,7 +219,7 @@ void addRowsAlone(benchmark::State& state)
 
 void registerLedgerBenchmarks()
 {
-    registerPair("ledger_posting_1000_rows", wholeGoal, postingToMiddle, postingToShort);
+    registerPair("ledger_posting_1000_rows", replayGoal, postingToMiddle, nullptr);
     registerPair("ledger_posting_100000_rows", replayGoal, postingToLong, nullptr);
     registerPair("ledger_rebuild_500000_lines", rebuildGoal, rebuild, nullptr, 2);
     registerPair("ledger_rebuild_from_nothing_500000", writingGoal, rebuildFromNothing,
