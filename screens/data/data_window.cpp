@@ -2,19 +2,15 @@
 
 #include <QBoxLayout>
 #include <QCloseEvent>
-#include <QGridLayout>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <memory>
 
 #include "screens/command_bar.h"
 #include "screens/command_runner.h"
+#include "screens/data/form_area.h"
 #include "screens/desktop.h"
 #include "screens/help.h"
 #include "screens/key_line.h"
@@ -24,43 +20,6 @@
 using Kind = EntryField::Kind;
 
 namespace {
-
-// Asks for the room that its whole form takes; the desktop gives what it has.
-class FormArea : public QScrollArea
-{
-public:
-    using QScrollArea::QScrollArea;
-    QSize sizeHint() const override
-    {
-        if (!widget())
-            return QScrollArea::sizeHint();
-        // A name that comes with what is typed may have a line more.
-        const QSize spare(verticalScrollBar()->sizeHint().width(), 10);
-        return widget()->sizeHint().expandedTo(widget()->minimumSizeHint()) + spare;
-    }
-    // All of a control, with some room around it.
-    void showWhole(QWidget* control)
-    {
-        constexpr int room = 6;
-        ensureWidgetVisible(control, room, room);
-    }
-
-protected:
-    // The box of errors takes room from the form while a field has the keyboard.
-    void resizeEvent(QResizeEvent* event) override
-    {
-        QScrollArea::resizeEvent(event);
-        QWidget* focused = widget() ? widget()->focusWidget() : nullptr;
-        if (focused && focused->hasFocus())
-            showWhole(focused);
-    }
-};
-
-// How many rows of a form a field takes.
-int rowsOf(const EntryField& field)
-{
-    return field.kind == Kind::Picture || field.kind == Kind::Memo ? 4 : 1;
-}
 
 // The letter that stands behind '&' in a caption.
 QString keyOf(const QString& caption)
@@ -75,33 +34,6 @@ void fitWidth(QLineEdit& edit, int length)
     const int character = edit.fontMetrics().averageCharWidth() + 1;
     edit.setMinimumWidth(character * std::min(shown, 30) + 24);
     edit.setMaximumWidth(character * shown + 40);
-}
-
-// Where each field stands. Columns are as long as each other, but for a heading near the foot of
-// one, which goes on to the next with its fields.
-struct FormCell
-{
-    int row;
-    int column;
-};
-std::vector<FormCell> cellsOf(const std::vector<EntryField>& fields, int columns)
-{
-    constexpr int leastBelowHeading = 2;
-    int rows = 0;
-    for (const EntryField& field : fields)
-        rows += rowsOf(field);
-    const int perColumn = (rows + columns - 1) / columns;
-    std::vector<FormCell> cells;
-    FormCell next{0, 0};
-    for (const EntryField& field : fields) {
-        const bool fits = field.kind == Kind::Heading ? next.row + leastBelowHeading < perColumn
-                                                      : next.row < perColumn;
-        if (!fits && next.column < columns - 1)
-            next = {0, next.column + 1};
-        cells.push_back(next);
-        next.row += rowsOf(field);
-    }
-    return cells;
 }
 
 }  // namespace
@@ -158,7 +90,8 @@ void DataWindow::build()
     }
     int first = 0;
     for (const DataSection& section : spec.sections) {
-        QWidget* page = buildSection(section, first);
+        auto* page = new FormArea(section, first, *m_fields);
+        m_pageOf.insert(m_pageOf.end(), section.fields.size(), page);
         first += static_cast<int>(section.fields.size());
         if (hasPages)
             m_pages->addTab(page, section.caption);
@@ -179,72 +112,6 @@ void DataWindow::build()
             setTabOrder(before, next);
         before = next;
     }
-}
-
-// Captions at the left of their fields; boxes and headings across. Wide forms scroll on small
-// displays.
-QWidget* DataWindow::buildSection(const DataSection& section, int firstField)
-{
-    auto* area = new FormArea;
-    area->setFrameShape(QFrame::NoFrame);
-    area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus);
-    auto* form = new QWidget;
-    auto* grid = new QGridLayout(form);
-    grid->setHorizontalSpacing(10);
-    const int columns = std::max(section.columns, 1);
-    const std::vector<FormCell> cells = cellsOf(section.fields, columns);
-    int at = firstField - 1;
-    for (const EntryField& field : section.fields) {
-        ++at;
-        const FormCell& cell = cells[static_cast<size_t>(at - firstField)];
-        const int row = cell.row;
-        const int column = cell.column * 3;
-        const int height = rowsOf(field);
-        QWidget* control = m_fields->control(at, form);
-        m_pageOf.push_back(area);
-        // Names come and go with what is typed: the form keeps room for the usual ones.
-        constexpr int nameLength = 30;
-        if (field.kind == Kind::Shown)
-            control->setMinimumWidth(control->fontMetrics().averageCharWidth() * nameLength);
-        // Beside other fields a memo is as high as its rows: more would tear theirs apart.
-        if (field.kind == Kind::Memo && columns > 1) {
-            control->setMinimumHeight(height * QLineEdit().sizeHint().height() +
-                                      (height - 1) * grid->verticalSpacing());
-            control->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-        }
-        if (field.kind == Kind::Heading) {
-            QFont font = control->font();
-            font.setBold(true);
-            control->setFont(font);
-        }
-        if (field.kind == Kind::Box || field.kind == Kind::Heading) {
-            grid->addWidget(control, row, column, 1, 2);
-            continue;
-        }
-        auto* caption = new QLabel(field.caption);
-        caption->setBuddy(control);
-        const Qt::Alignment side = height > 1 ? Qt::AlignTop : Qt::AlignVCenter;
-        grid->addWidget(caption, row, column, height, 1, Qt::AlignRight | side);
-        const bool fills =
-            field.kind == Kind::Memo || field.kind == Kind::Text || field.kind == Kind::Shown;
-        QWidget* button = m_fields->searchButton(at, form);
-        if (!button) {
-            grid->addWidget(control, row, column + 1, height, 1,
-                            fills ? Qt::Alignment() : Qt::AlignLeft);
-            continue;
-        }
-        auto* both = new QHBoxLayout;
-        both->addWidget(control, 1);
-        both->addWidget(button);
-        both->addStretch();
-        grid->addLayout(both, row, column + 1, height, 1);
-    }
-    for (int c = 0; c < columns; ++c)
-        grid->setColumnStretch(c * 3 + 1, 1);
-    grid->setRowStretch(grid->rowCount(), 1);
-    area->setWidget(form);
-    return area;
 }
 
 void DataWindow::buildCommands()
@@ -329,7 +196,7 @@ void DataWindow::takeFocus()
 
 void DataWindow::showWhole(int at)
 {
-    static_cast<FormArea*>(m_pageOf[static_cast<size_t>(at)])->showWhole(m_fields->control(at));
+    m_pageOf[static_cast<size_t>(at)]->showWhole(m_fields->control(at));
 }
 
 void DataWindow::fieldEntered(int at)

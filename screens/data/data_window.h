@@ -9,6 +9,7 @@
 #include "screens/screen_context.h"
 
 class CommandBar;
+class FormArea;
 class KeyLine;
 class QLineEdit;
 class QPushButton;
@@ -30,7 +31,6 @@ protected:
 
 private:
     void build();
-    QWidget* buildSection(const DataSection& section, int firstField);
     void buildCommands();
     void update(bool stays);
     void run(const std::function<void()>& command);
@@ -52,7 +52,7 @@ private:
     QPushButton* m_cancel = nullptr;
     std::vector<QPushButton*> m_whileTyping;  // commands that wait for that
     std::vector<std::pair<QPushButton*, const DataCommand*>> m_shownAtTimes;
-    std::vector<QWidget*> m_pageOf;  // of each field
+    std::vector<FormArea*> m_pageOf;  // of each field
     int m_found = -1;
     int m_entered = -1;  // the field that had the focus last
     bool m_loaded = false;
